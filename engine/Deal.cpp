@@ -1,0 +1,111 @@
+#include "engine/Deal.h"
+
+#include <cmath>
+
+#include "engine/Generator.h"
+#include "table/CardDisplay.h"
+#include "table/ErrorReport.h"
+
+namespace Parlino {
+namespace {
+
+constexpr Integer DealPauseMs = 25;
+
+struct Trumps {
+  Integer suit;
+  Integer picture;
+};
+
+constexpr Trumps TrumpsByDealer[SeatsAtTable] = {{Hearts, PictureHearts},
+                                                 {Diamonds, PictureDiamonds},
+                                                 {Clubs, PictureClubs},
+                                                 {Spades, PictureSpades}};
+
+void DrawCardFor(Integer seat) {
+  PauseMs = DealPauseMs;
+  const Integer card = GetSingleCard();
+  Pack[card].Owner = seat;
+  MoveDealtCard(card, seat);
+}
+
+void DealTo(Integer seat) {
+  switch (seat) {
+    case Player:
+      return DealToPlayer();
+    case West:
+      return DealToWest();
+    case North:
+      return DealToNorth();
+    default:
+      return DealToEast();
+  }
+}
+
+}  // namespace
+
+// Rounding to the nearest whole number gives 0 and 52 half the chance of the others, so that the
+// Ace of Spades tends to be dealt late. Players know the game by that, and it stays.
+Integer GetSingleCard() {
+  return ReportErrors("GetSingleCard", [] {
+    while (true) {
+      MixClockIntoGenerator();
+      const auto card =
+          static_cast<int>(std::lrint(static_cast<double>(NextRandom()) * CardsInPack));
+      if (card != 0 && Pack[card].Owner == NoSeat) return static_cast<Integer>(card);
+    }
+  });
+}
+
+void DealCards() {
+  ReportErrors("DealCards", [] {
+    GameInProgress = True;
+    StartSound(ShuffleSound);
+    const Integer dealer = Dealer;
+    for (int round = 1; round <= CardsInSuit; ++round)
+      for (int place = 1; place <= SeatsAtTable; ++place) DealTo(SeatAfter(dealer, place));
+    DisplayTrumps();
+  });
+}
+
+// The Player hears the card before it is sorted into the hand; the robots' cards are put away
+// first.
+void DealToPlayer() {
+  DrawCardFor(Player);
+  PlayCardSound();
+  ShowPlayerHand();
+}
+
+void DealToWest() {
+  DrawCardFor(West);
+  ShowWestHand();
+  PlayCardSound();
+}
+
+void DealToNorth() {
+  DrawCardFor(North);
+  ShowNorthHand();
+  PlayCardSound();
+}
+
+void DealToEast() {
+  DrawCardFor(East);
+  ShowEastHand();
+  PlayCardSound();
+}
+
+void DisplayTrumps() {
+  ReportErrors("DisplayTrumps", [] {
+    const Trumps& trumps = TrumpsByDealer[Dealer];
+    Show(Table.LblTrumps);
+    SetPicture(Table.imgtrumps, trumps.picture);
+    Show(Table.imgtrumps);
+    TrumpSuit = trumps.suit;
+    const Integer firstBidder = SeatAfter(Dealer);
+    if (firstBidder == Player)
+      SetCaption(Table.LblInfo, {PlayerName, " you will bid first"});
+    else
+      SetCaption(Table.LblInfo, {SeatNames[firstBidder], " will bid first"});
+  });
+}
+
+}  // namespace Parlino

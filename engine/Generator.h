@@ -1,0 +1,34 @@
+// The random generator of the deal. It is our own, so that a seed repeats a game with every
+// compiler and library.
+#pragma once
+
+#include <cstdint>
+
+namespace Parlino {
+
+class Generator {
+ public:
+  // Starts a sequence of its own for every seed.
+  void Seed(std::uint64_t seed);
+  // Mixes a value into the state. The state carries over, so that mixing in the same value twice
+  // still gives different sequences.
+  void Mix(std::uint64_t value);
+  // The next 24 random bits.
+  std::uint32_t NextBits();
+  // A whole number 0..count - 1.
+  int NextBelow(int count);
+
+ private:
+  std::uint64_t state_ = 0;
+};
+
+// The generator that deals the cards. Its first state is set once, before the game begins.
+inline Generator DealGenerator;
+
+// Mixes the platform's clock into DealGenerator.
+void MixClockIntoGenerator();
+
+// The next value of DealGenerator, uniform in [0, 1) with 24 bits.
+float NextRandom();
+
+}  // namespace Parlino

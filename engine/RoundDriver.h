@@ -1,0 +1,31 @@
+// The round driver: one hand after the other, from the clearing of the table to the last trick.
+#pragma once
+
+#include "engine/GameState.h"
+
+namespace Parlino {
+
+// "New Game": deals a hand.
+void MnuNew_Click();
+
+// Clears the table, deals, collects the bids and plays the hand, and goes on with the next hand for
+// as long as one is wanted; returns when no hand is. While a hand is under way a further call
+// abandons that hand at once and leaves by HandAbandoned, so that the hand's own driver deals
+// afresh and calls never nest. Totals and statistics are left alone. Reports its own errors; may
+// leave by ProgramEnded.
+void DealNewRound();
+
+// Chooses the dealer: the next seat while a game is in progress, any seat otherwise. Sets Dealer
+// and Leader. Reports its own errors.
+void GetDealer();
+
+// Puts the table and the per-hand state back to the start of a hand; totals stay.
+void ClearTable();
+
+// The human bids `tricks`, 1..13. A bid cannot be changed.
+void LblBids_Click(Integer tricks);
+
+// Whether a hand is being dealt, bid or played.
+bool HandIsUnderWay();
+
+}  // namespace Parlino

@@ -1,0 +1,63 @@
+#include "engine/StartUp.h"
+
+#include "engine/GameState.h"
+#include "persistence/DataFiles.h"
+#include "table/ErrorReport.h"
+#include "table/TableView.h"
+
+namespace Parlino {
+namespace {
+
+constexpr Integer NormalPauseMs = 150;
+constexpr TablePoint WestGreetingPlace{1815, 2400};
+constexpr TablePoint EastGreetingPlace{8500, 2400};
+
+// The first values are in force before the file is read, so that they stay when it cannot be.
+void ReadOrUseFirst(std::string_view file, void (*read)()) {
+  UseFirstRecord(file);
+  ReportErrors("Form_Load", read);
+}
+
+void PlaceGreetings() {
+  ShowNames();
+  MoveTo(Table.LblName[West], WestGreetingPlace);
+  MoveTo(Table.LblName[East], EastGreetingPlace);
+}
+
+void SkipWelcomePanel() {
+  Hide(Table.lblTitle);
+  Hide(Table.CmdDontShow);
+  Hide(Table.LblIntro);
+  SetCaption(Table.LblInfo, {" Press F2 for new game"});
+  Show(Table.FrmMain);
+  Show(Table.Shape1);
+  Show(Table.FramScores);
+}
+
+}  // namespace
+
+void Form_Load() {
+  ReportErrors("Form_Load", [] {
+    ReadOrUseFirst(SaveGameFile, ReadSaveGame);
+    ReadOrUseFirst(NamesFile, ReadNames);
+    ReadOrUseFirst(PointsFile, ReadPoints);
+    SeatNames[Player] = PlayerName;
+    PlaceGreetings();
+    DefaultPauseMs = NormalPauseMs;
+    ReadOrUseFirst(WelcomeFile, ReadWelcome);
+    if (HideWelcome == True) SkipWelcomePanel();
+    CreateCardPictures();
+    if (HideWelcome == False) Hide(Table.FramScores);
+    SetItUp();
+    Show(Table.FrmMain);
+  });
+}
+
+void ShowNames() {
+  SetCaption(Table.LblName[Player], {PlayerName});
+  SetCaption(Table.LblName[West], {SeatNames[West], "- Welcome ", PlayerName});
+  SetCaption(Table.LblName[North], {SeatNames[North], " - Hello and Welcome ", PlayerName});
+  SetCaption(Table.LblName[East], {SeatNames[East], " - Hi "});
+}
+
+}  // namespace Parlino

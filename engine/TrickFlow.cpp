@@ -1,0 +1,161 @@
+#include "engine/TrickFlow.h"
+
+#include "engine/TrickPlay.h"
+#include "persistence/DataFiles.h"
+#include "platform/Platform.h"
+#include "robots/FourthHand.h"
+#include "robots/Lead.h"
+#include "robots/SecondAndThirdHand.h"
+#include "table/CardDisplay.h"
+#include "table/ErrorReport.h"
+#include "table/MessageDialog.h"
+
+namespace Parlino {
+namespace {
+
+constexpr std::string_view TrickSeparator = "=======================================";
+
+void TakeRobotsTurn(int position, Integer seat) {
+  switch (position) {
+    case 1:
+      return PlayFirstCard(seat);
+    case 2:
+      return PlaySecondCard(seat);
+    case 3:
+      return PlayThirdCard(seat);
+    default:
+      return PlayFourthCard(seat);
+  }
+}
+
+Label& TrickLabelOf(Integer seat) {
+  Label* const labels[SeatsAtTable] = {&Table.LblPTricks, &Table.LblWTricks, &Table.LblNTricks,
+                                       &Table.LblETricks};
+  return *labels[seat];
+}
+
+int OurTricks() {
+  return TricksWon[Player] + TricksWon[North];
+}
+int TheirTricks() {
+  return TricksWon[West] + TricksWon[East];
+}
+
+void CountTrick() {
+  const Integer winner = TrickWinner;
+  TricksWon[winner] = ToInteger(TricksWon[winner] + 1);
+  SetCaption(TrickLabelOf(winner), {TricksWon[winner]});
+  SetCaption(Table.LblInfo, {winner == Player ? PlayerName : SeatNames[winner],
+                             " won this trick and will now lead a card"});
+  Leader = winner;
+  SetCaption(Table.LblPNMade, {OurTricks()});
+  SetCaption(Table.LblWEMade, {TheirTricks()});
+}
+
+void ScoreHand() {
+  OurHandScore = HandScore(OurTricks(), OurBid);
+  TheirHandScore = HandScore(TheirTricks(), TheirBid);
+  OurPoints = ToInteger(OurPoints + OurHandScore);
+  SetCaption(Table.StatusBar1[2], {"Your team points:- ", OurPoints});
+  TheirPoints = ToInteger(TheirPoints + TheirHandScore);
+  SetCaption(Table.StatusBar1[3], {"Their team points:- ", TheirPoints});
+}
+
+// Equal totals never end a game, however high they are.
+bool GameIsOver() {
+  return (OurPoints >= TargetPoints || TheirPoints >= TargetPoints) && OurPoints != TheirPoints;
+}
+
+void OfferNextHand() {
+  ShowMessage(
+      JoinText({PlayerName, " and ", SeatNames[North], " have scored ", OurHandScore,
+                " for this hand making a total score todate of ", OurPoints, " and  ",
+                SeatNames[West], " and ", SeatNames[East], " score this hand is ", TheirHandScore,
+                " their total score todate is  ", TheirPoints, " ",
+                " Total score not reached, or scores are the same. Click Next Hand or Save and "
+                "Exit"}),
+      "Next Hand", "Save and Exit", "", 3, "Scores");
+  if (MessageChoice == 0) return;
+  GameInProgress = True;
+  SaveGame();
+  SavePoints();
+  UnloadAllForms();
+}
+
+void CountGame(bool won) {
+  if (won) GamesWon = ToInteger(GamesWon + 1);
+  GamesPlayed = ToInteger(GamesPlayed + 1);
+}
+
+void ShowGameOver(bool won) {
+  constexpr std::string_view ending =
+      ". See statistics for number of games won or lost. Click on New Game or Exit to leave.";
+  const std::string prompt =
+      won ? JoinText({"Well done, you and your partner won that game with a total score of ",
+                      OurPoints, " against their total  team score of ", TheirPoints, ending})
+          : JoinText({"Unfortunately the enemy won that game with a score of ", TheirPoints,
+                      " against your team score of  ", OurPoints, ending});
+  ShowMessage(prompt, "New Game", "Exit", "", won ? 1 : 2, "Game Over");
+}
+
+void EndGame() {
+  GameInProgress = False;
+  const bool won = OurPoints > TheirPoints;
+  CountGame(won);
+  ShowGameOver(won);
+  OurPoints = TheirPoints = 0;
+  SavePoints();
+  SaveGame();
+  if (MessageChoice != 0) UnloadAllForms();
+}
+
+}  // namespace
+
+Integer HandScore(int tricks, int bid) {
+  return ToInteger(tricks >= bid ? 10 * bid + (tricks - bid) : -10 * bid);
+}
+
+bool LeadNextTrick(Integer leader) {
+  PlayTrick(leader);
+  while (TrickNumber < TricksInHand) PlayTrick(Leader);
+  ScoreHand();
+  if (GameIsOver())
+    EndGame();
+  else
+    OfferNextHand();
+  return true;  // every other answer has ended the program
+}
+
+void PlayTrick(Integer leader) {
+  TrickNumber = ToInteger(TrickNumber + 1);
+  Show(Table.LblInfo);
+  for (int position = 1; position <= SeatsAtTable; ++position) {
+    const Integer seat = SeatAfter(leader, position - 1);
+    if (seat == Player)
+      TakeHumansTurn();
+    else
+      TakeRobotsTurn(position, seat);
+    TrickSeats[position] = seat;
+  }
+  AddLine(Table.LstCardsPlayed, {TrickSeparator});
+  GetTrickWinner();
+  CountTrick();
+  JustMoveCardsOut(TrickWinner);
+}
+
+void GetTrickWinner() {
+  int winning = 1;
+  for (int position = 2; position <= SeatsAtTable; ++position) {
+    const Card& card = Pack[TrickCards[position]];
+    const Card& best = Pack[TrickCards[winning]];
+    if (card.Suit == best.Suit ? card.Value > best.Value : card.Suit == TrumpSuit)
+      winning = position;
+  }
+  TrickWinner = TrickSeats[winning];
+}
+
+void TellHandIsOver() {
+  ThePlatform().MsgBox(" the hand is over check  the scores", ApplicationTitle, false);
+}
+
+}  // namespace Parlino

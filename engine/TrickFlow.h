@@ -1,0 +1,30 @@
+// The flow of a hand: trick after trick, who won each, the score of the hand and the end of a game.
+#pragma once
+
+#include "engine/GameState.h"
+
+namespace Parlino {
+
+// Plays the tricks of a hand, the first led by `leader`, and settles the hand. Returns whether the
+// player wants another hand. May leave by HandAbandoned or ProgramEnded; errors pass to the caller.
+bool LeadNextTrick(Integer leader);
+
+// Plays one trick led by `leader`: the four turns, the winner, the counters, the trick pile. Leader
+// becomes the winner.
+void PlayTrick(Integer leader);
+
+// Sets TrickWinner: the highest trump in the trick, or else the highest card of the led suit.
+void GetTrickWinner();
+
+// The points a team makes in a hand: 10 for every trick bid and 1 for every trick over, or 10 lost
+// for every trick bid.
+Integer HandScore(int tricks, int bid);
+
+// The points that each team made in the hand last scored.
+inline Integer OurHandScore;
+inline Integer TheirHandScore;
+
+// Tells the player that the hand is over, when it led neither to a further hand nor to the end.
+void TellHandIsOver();
+
+}  // namespace Parlino

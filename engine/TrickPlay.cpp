@@ -1,0 +1,108 @@
+#include "engine/TrickPlay.h"
+
+#include "table/CardDisplay.h"
+#include "table/ErrorReport.h"
+
+namespace Parlino {
+namespace {
+
+constexpr Integer NoteMs = 500;
+
+// Set while the follow-suit note is up: further wrong clicks add nothing to it, and so cannot pile
+// up note inside note.
+bool followSuitNoteIsUp = false;
+
+void ShowFollowSuitNote() {
+  if (followSuitNoteIsUp) return;
+  struct Mark {
+    Mark() { followSuitNoteIsUp = true; }
+    ~Mark() { followSuitNoteIsUp = false; }
+  } const mark;
+  ShowInfoNote({PlayerName, " sorry, you must follow suit. Please try again"}, NoteMs);
+}
+
+void PutCardOnTable(Integer seat, Integer card, const std::string& name) {
+  MoveToMiddle(card, seat);
+  PlayCardSound();
+  Pack[card].Owner = NoSeat;
+  AddLine(Table.LstCardsPlayed, {name, " played ", Pack[card].FullName});
+}
+
+void PlayHumansCard(Integer card) {
+  PlayerTurn = False;  // the pause below still lets clicks in: this card is the one of the turn
+  RecordInTrick(HumansPosition(), card);
+  PutCardOnTable(Player, card, PlayerName);
+  PlayerHasPlayed = True;
+}
+
+}  // namespace
+
+int HumansPosition() {
+  return (SeatsAtTable - Leader) % SeatsAtTable + 1;
+}
+
+void RecordInTrick(int position, Integer card) {
+  TrickCards[position] = card;
+  TrickSuits[position] = Pack[card].Suit;
+}
+
+bool MayPlayCard(Integer seat, Integer card, int position) {
+  if (Pack[card].Owner != seat) return false;
+  return position == 1 || !HasStartSuitQuery(seat) || Pack[card].Suit == LedSuit;
+}
+
+void TakeHumansTurn() {
+  PlayerTurn = True;
+  SetCaption(Table.LblInfo, {PlayerName, " please play a card."});
+  while (PlayerHasPlayed == False) WaitForEvents();
+  PlayerHasPlayed = False;
+  PlayerTurn = False;
+}
+
+void Cds_Click(Integer card) {
+  ReportErrors("Cds_Click", [card] {
+    if (Pack[card].Owner != Player || PlayerTurn == False || GameInProgress == False) return;
+    if (MayPlayCard(Player, card, HumansPosition()))
+      PlayHumansCard(card);
+    else
+      ShowFollowSuitNote();
+  });
+}
+
+void Cds_MouseMove(Integer card) {
+  if (Pack[card].Owner != Player) return;
+  PictureBox& picture = Table.Cds[card];
+  if (PlayerTurn != False) {
+    SetMousePointer(picture, PicturePointerPlay);
+    SetToolTip(picture, {PlayerName, " left click the card you wish to play."});
+  } else {
+    SetMousePointer(picture, PicturePointerWait);
+    SetToolTip(picture, {PlayerName, " sorry, it is not your turn at the moment."});
+  }
+}
+
+void PlayCard(Integer seat, Integer card) {
+  ReportErrors("PlayCard", [seat, card] {
+    SetPicture(Table.Cds[card], card);
+    ShowInfoNote({"Card being played is  ", Pack[card].FullName}, NoteMs);
+    PutCardOnTable(seat, card, SeatNames[seat]);
+    PauseMs = DefaultPauseMs;
+  });
+}
+
+bool HasStartSuitQuery(Integer seat) {
+  return ReportErrors("HasStartSuitQuery", [seat] {
+    const Integer first = FirstCardOf(LedSuit);
+    for (int card = first; card < first + CardsInSuit; ++card)
+      if (Pack[card].Owner == seat) return true;
+    PauseMs = DefaultPauseMs;
+    return false;
+  });
+}
+
+bool CardGoneQuery(Integer value, Integer suit) {
+  return ReportErrors("CardGoneQuery",
+                      [value, suit] { return Pack[CardNumber(value, suit)].Owner == NoSeat; });
+}
+
+}  // namespace Parlino

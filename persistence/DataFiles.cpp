@@ -1,0 +1,115 @@
+#include "persistence/DataFiles.h"
+
+#include "engine/GameState.h"
+#include "persistence/Records.h"
+#include "platform/Platform.h"
+#include "table/ErrorReport.h"
+#include "table/TableView.h"
+
+namespace Parlino {
+namespace {
+
+// A record is parsed into locals first: a fault in its last field must not leave its first one in
+// the game.
+void TakeNames(std::string_view record) {
+  RecordReader reader(record);
+  Indexed<std::string, 0, 3> names;
+  for (std::string& name : names) name = reader.TakeText();
+  reader.ExpectEnd();
+  PlayerName = names[Player];
+  for (Integer seat = West; seat <= East; ++seat) SeatNames[seat] = names[seat];
+}
+
+void TakePoints(std::string_view record) {
+  RecordReader reader(record);
+  const Integer won = reader.TakeInteger();
+  const Integer played = reader.TakeInteger();
+  reader.ExpectEnd();
+  GamesWon = won;
+  GamesPlayed = played;
+}
+
+void TakeSaveGame(std::string_view record) {
+  RecordReader reader(record);
+  const Integer ours = reader.TakeInteger();
+  const Integer theirs = reader.TakeInteger();
+  const Flag inProgress = reader.TakeFlag();
+  reader.ExpectEnd();
+  OurPoints = ours;
+  TheirPoints = theirs;
+  GameInProgress = inProgress;
+}
+
+void TakeWelcome(std::string_view record) {
+  RecordReader reader(record);
+  const Flag hide = reader.TakeFlag();
+  reader.ExpectEnd();
+  HideWelcome = hide;
+}
+
+void TakeRecord(std::string_view file, std::string_view record) {
+  if (file == NamesFile) return TakeNames(record);
+  if (file == PointsFile) return TakePoints(record);
+  if (file == SaveGameFile) return TakeSaveGame(record);
+  return TakeWelcome(record);
+}
+
+void ReadRecord(std::string_view file) {
+  const std::string record = ThePlatform().ReadFile(file);
+  try {
+    TakeRecord(file, record);
+  } catch (const GameError& error) {
+    ThePlatform().SetFileAside(file);
+    throw GameError(error.Number(), JoinText({file, " cannot be understood: ", error.what()}));
+  }
+}
+
+void WriteRecord(std::string_view file, const RecordWriter& record) {
+  try {
+    ThePlatform().ReplaceFile(file, record.Line());
+  } catch (const GameError& error) {
+    ThePlatform().MsgBox(error.what(), ApplicationTitle, false);
+  }
+}
+
+}  // namespace
+
+void ReadSaveGame() {
+  ReadRecord(SaveGameFile);
+}
+void ReadNames() {
+  ReadRecord(NamesFile);
+}
+void ReadPoints() {
+  ReadRecord(PointsFile);
+}
+void ReadWelcome() {
+  ReadRecord(WelcomeFile);
+}
+
+void UseFirstRecord(std::string_view file) {
+  for (const FirstRecord& first : FirstRecords)
+    if (first.file == file) TakeRecord(file, first.record);
+}
+
+void SaveGame() {
+  WriteRecord(SaveGameFile, RecordWriter().Add(OurPoints).Add(TheirPoints).AddFlag(GameInProgress));
+}
+
+void SavePoints() {
+  WriteRecord(PointsFile, RecordWriter().Add(GamesWon).Add(GamesPlayed));
+}
+
+void SaveNames() {
+  WriteRecord(NamesFile, RecordWriter()
+                             .Add(PlayerName)
+                             .Add(SeatNames[West])
+                             .Add(SeatNames[North])
+                             .Add(SeatNames[East]));
+}
+
+void SaveWelcome() {
+  WriteRecord(WelcomeFile, RecordWriter().AddFlag(HideWelcome));
+}
+
+}  // namespace Parlino

@@ -1,0 +1,44 @@
+// The four data files of the program's folder, each one record: names, statistics, the saved game
+// and the wish not to be welcomed.
+#pragma once
+
+#include <string_view>
+
+namespace Parlino {
+
+inline constexpr std::string_view NamesFile = "Names2.dat";
+inline constexpr std::string_view PointsFile = "Points.dat";
+inline constexpr std::string_view SaveGameFile = "SaveGame.dat";
+inline constexpr std::string_view WelcomeFile = "Welcome.dat";
+
+// What a file holds when the game is new.
+struct FirstRecord {
+  std::string_view file;
+  std::string_view record;
+};
+inline constexpr FirstRecord FirstRecords[] = {
+    {NamesFile, "\"Player\",\"West\",\"North\",\"East\"\r\n"},
+    {PointsFile, "0,0\r\n"},
+    {SaveGameFile, "0,0,#FALSE#\r\n"},
+    {WelcomeFile, "#FALSE#\r\n"},
+};
+
+// Each reads its file into the game state, whole or not at all. A missing, unreadable or malformed
+// file raises a GameError that names it and the reason and leaves the state as it was; a malformed
+// one is first set aside under another name.
+void ReadSaveGame();  // OurPoints, TheirPoints, GameInProgress
+void ReadNames();     // PlayerName, SeatNames[1..3]
+void ReadPoints();    // GamesWon, GamesPlayed
+void ReadWelcome();   // HideWelcome
+
+// Puts what the file would hold in a new game into the game state.
+void UseFirstRecord(std::string_view file);
+
+// Each replaces its file by the values of the game state. A file that cannot be written is reported
+// to the player in a plain message box; the values stay as they are.
+void SaveGame();
+void SavePoints();
+void SaveNames();
+void SaveWelcome();
+
+}  // namespace Parlino

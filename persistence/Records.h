@@ -1,0 +1,51 @@
+// The text of a data file: one line of comma-separated fields. Texts stand in double quotes, whole
+// numbers in plain digits, flags as #TRUE# or #FALSE#.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "engine/GameState.h"
+
+namespace Parlino {
+
+// Takes the fields of a record one after the other. Every call raises a GameError that says what is
+// wrong when the next field is missing or is not of the kind asked for.
+class RecordReader {
+ public:
+  explicit RecordReader(std::string_view record);
+
+  std::string TakeText();
+  Integer TakeInteger();
+  Flag TakeFlag();
+  // Raises unless every field has been taken.
+  void ExpectEnd() const;
+
+ private:
+  std::string_view NextField();
+
+  std::string_view rest_;
+  int fieldsTaken_ = 0;
+  bool atEnd_ = false;
+};
+
+// Builds a record field by field.
+class RecordWriter {
+ public:
+  RecordWriter& Add(std::string_view text);
+  RecordWriter& Add(Integer number);
+  RecordWriter& AddFlag(Flag flag);
+  // The record with its line end.
+  [[nodiscard]] std::string Line() const { return line_ + "\r\n"; }
+
+ private:
+  void Separate();
+
+  std::string line_;
+};
+
+// The text without what a record cannot hold: double quotes, control characters and line ends.
+// Everything else stays, commas, accents and length. Text is UTF-8.
+std::string KeepStorable(std::string_view text);
+
+}  // namespace Parlino

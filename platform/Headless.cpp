@@ -1,0 +1,125 @@
+#include "platform/Headless.h"
+
+#include <algorithm>
+#include <cerrno>
+
+#include "engine/Errors.h"
+#include "persistence/DataFiles.h"
+#include "table/MessageDialog.h"
+#include "table/TableView.h"
+
+namespace Parlino {
+namespace {
+
+// So often the game may wait in vain before the script is held to be at its end.
+constexpr int MostIdleCalls = 100;
+
+constexpr std::uint64_t MsInDay = 86'400'000;
+
+std::string_view NameOf(WindowName window) {
+  switch (window) {
+    case WindowName::frmAbout:
+      return "frmAbout";
+    case WindowName::MFormDeluxe:
+      return "MFormDeluxe";
+    case WindowName::FrmMain:
+      return "FrmMain";
+    default:
+      return "frmHelp";
+  }
+}
+
+}  // namespace
+
+HeadlessPlatform::HeadlessPlatform() {
+  for (const FirstRecord& first : FirstRecords) files.emplace(first.file, first.record);
+}
+
+void HeadlessPlatform::ProcessEvents(std::uint32_t atMostMs) {
+  struct Level {
+    explicit Level(int& depth) : depth_(depth) { ++depth_; }
+    Level(const Level&) = delete;
+    Level& operator=(const Level&) = delete;
+    ~Level() { --depth_; }
+    int& depth_;
+  } const level(depth);
+  deepest = std::max(deepest, depth);
+
+  const std::uint32_t start = ticks;
+  const std::uint64_t changesBefore = Table.Changes;
+  const bool dialogBefore = MFormDeluxe.Visible;
+  script(atMostMs);
+  if (atMostMs != Forever) {
+    if (ticks - start < atMostMs) ticks = start + atMostMs;
+    return;
+  }
+  const bool nothingHappened =
+      Table.Changes == changesBefore && MFormDeluxe.Visible == dialogBefore;
+  idleCalls_ = nothingHappened ? idleCalls_ + 1 : 0;
+  if (idleCalls_ > MostIdleCalls) throw ScriptHasNothingToSay{};
+}
+
+double HeadlessPlatform::ClockSeconds() {
+  return static_cast<double>((std::uint64_t{clockAtStart} + ticks) % MsInDay) / 1000;
+}
+
+void HeadlessPlatform::Note(std::string_view kind, std::string_view text) {
+  if (keepsRecord) record.push_back(JoinText({kind, ": ", text}));
+}
+
+void HeadlessPlatform::StartSound(std::string_view fileName) {
+  Note("sound", fileName);
+}
+
+std::string HeadlessPlatform::InputBox(std::string_view prompt, std::string_view title,
+                                       std::string_view defaultAnswer) {
+  Note("input box", prompt);
+  return answerInputBox ? answerInputBox(prompt, title, defaultAnswer) : std::string(defaultAnswer);
+}
+
+void HeadlessPlatform::MsgBox(std::string_view text, std::string_view title, bool critical) {
+  Note(critical ? "critical box" : "box", JoinText({title, ": ", text}));
+  onMsgBox(text);
+}
+
+// An estimate: 34 characters of the dialog's font fill a line 3375 twips wide.
+int HeadlessPlatform::PromptHeight(std::string_view prompt, int width) {
+  constexpr int twipsOfCharacter = 99;
+  constexpr int twipsOfLine = 225;
+  const int perLine = width / twipsOfCharacter;
+  return twipsOfLine * std::max(1, (static_cast<int>(prompt.size()) + perLine - 1) / perLine);
+}
+
+ScreenSize HeadlessPlatform::Screen() {
+  return {1280 * 15, 1024 * 15};
+}
+
+void HeadlessPlatform::CloseWindow(WindowName window) {
+  Note("closed", NameOf(window));
+}
+
+std::string HeadlessPlatform::ReadFile(std::string_view fileName) {
+  const auto file = files.find(fileName);
+  if (file == files.end())
+    throw GameError(ENOENT, JoinText({fileName, " cannot be read: No such file or directory"}));
+  return file->second;
+}
+
+void HeadlessPlatform::ReplaceFile(std::string_view fileName, std::string_view content) {
+  Note("written", fileName);
+  if (!filesCanBeWritten)
+    throw GameError(EROFS, JoinText({fileName, " cannot be written: Read-only file system"}));
+  files.insert_or_assign(std::string(fileName), std::string(content));
+}
+
+void HeadlessPlatform::SetFileAside(std::string_view fileName) {
+  auto file = files.extract(files.find(fileName));
+  file.key() += ".bad";
+  files.insert(std::move(file));
+}
+
+bool HeadlessPlatform::FileExists(std::string_view fileName) {
+  return files.contains(fileName);
+}
+
+}  // namespace Parlino

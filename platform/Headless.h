@@ -1,0 +1,68 @@
+// The platform without a window: time is virtual, files live in memory, and a script plays the
+// person. A pause takes no time of the real clock and goes through the same states as at the table.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/Platform.h"
+
+namespace Parlino {
+
+// Thrown when the game waits for the person and the script has nothing to say any more. It is no
+// std::exception, so that no error report of the game takes it for one of its own.
+struct ScriptHasNothingToSay {};
+
+class HeadlessPlatform : public Platform {
+ public:
+  // Begins with the first data files of a new game. Ticks and clock start at fixed values, so that
+  // a run repeats.
+  HeadlessPlatform();
+
+  // Asked at every chance to process events, with the time the game is ready to wait. It looks at
+  // the table as a person would and raises events through the table's doors.
+  std::function<void(std::uint32_t atMostMs)> script = [](std::uint32_t) {};
+  // Answers a text-input box; without one the answer is OK with the default.
+  std::function<std::string(std::string_view prompt, std::string_view title,
+                            std::string_view defaultAnswer)>
+      answerInputBox;
+  // Sees each plain message box.
+  std::function<void(std::string_view text)> onMsgBox = [](std::string_view) {};
+
+  std::map<std::string, std::string, std::less<>> files;
+  bool filesCanBeWritten = true;
+
+  // What was shown and heard, in order, a line each; kept only while `keepsRecord` is set.
+  std::vector<std::string> record;
+  bool keepsRecord = false;
+
+  std::uint32_t ticks = 0;
+  std::uint32_t clockAtStart = 43'200'000;  // milliseconds since midnight
+  int depth = 0;                // of ProcessEvents inside ProcessEvents
+  int deepest = 0;
+
+  void ProcessEvents(std::uint32_t atMostMs) override;
+  std::uint32_t Ticks() override { return ticks; }
+  double ClockSeconds() override;
+  void StartSound(std::string_view fileName) override;
+  std::string InputBox(std::string_view prompt, std::string_view title,
+                       std::string_view defaultAnswer) override;
+  void MsgBox(std::string_view text, std::string_view title, bool critical) override;
+  int PromptHeight(std::string_view prompt, int width) override;
+  ScreenSize Screen() override;
+  void CloseWindow(WindowName window) override;
+  std::string ReadFile(std::string_view fileName) override;
+  void ReplaceFile(std::string_view fileName, std::string_view content) override;
+  void SetFileAside(std::string_view fileName) override;
+  bool FileExists(std::string_view fileName) override;
+
+ private:
+  void Note(std::string_view kind, std::string_view text);
+
+  int idleCalls_ = 0;
+};
+
+}  // namespace Parlino

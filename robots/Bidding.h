@@ -1,0 +1,16 @@
+// How a robot bids: a count over its thirteen cards.
+#pragma once
+
+#include "engine/GameState.h"
+
+namespace Parlino {
+
+// Counts the seat's cards by suit into DiamondsTotal, ClubsTotal, HeartsTotal and SpadesTotal.
+// Reports its own errors.
+void SuitTotals(Integer seat);
+
+// The seat's bid, at least 1, by its own hand and TrumpSuit alone. Changes only the four suit
+// totals. Reports its own errors.
+Integer GetBid(Integer seat);
+
+}  // namespace Parlino

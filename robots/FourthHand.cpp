@@ -1,0 +1,84 @@
+#include "robots/FourthHand.h"
+
+#include <algorithm>
+
+#include "engine/TrickPlay.h"
+#include "robots/Hands.h"
+#include "robots/Lead.h"
+#include "table/ErrorReport.h"
+
+namespace Parlino {
+namespace {
+
+Integer ValueAt(int position) {
+  return Pack[TrickCards[position]].Value;
+}
+bool IsRuff(int position) {
+  return TrickSuits[position] == TrumpSuit;
+}
+bool FollowsSuit(int position) {
+  return TrickSuits[position] == LedSuit;
+}
+
+// Low behind a winning partner, an Ace or a ruff; otherwise the Ace over a third hand that followed
+// suit, or the cheapest card above the higher of the first and the third value. The third value
+// counts whatever its suit.
+Integer FollowSuitFourth(Integer seat) {
+  const Integer lowest = LowestCardSuit(LedSuit, seat);
+  if (PartnerWinningFourth() || ValueAt(1) == Ace || ValueAt(3) == Ace) return lowest;
+  if (LedSuit != TrumpSuit && IsRuff(3)) return lowest;
+  if (FollowsSuit(3) && HoldsCard(seat, Ace, LedSuit)) return CardNumber(Ace, LedSuit);
+  if (ValueAt(1) == ValueAt(3)) return lowest;
+  const Integer above = LowestCardAbove(LedSuit, std::max(ValueAt(1), ValueAt(3)), seat);
+  return above != 0 ? above : lowest;
+}
+
+// Ruffs a trick in which the third hand followed suit, over-ruffs the third hand, else discards.
+Integer DiscardOrRuffFourth(Integer seat) {
+  if (!PartnerWinningFourth() && LedSuit != TrumpSuit) {
+    if (FollowsSuit(3))
+      if (const Integer ruff = LowestCardSuit(TrumpSuit, seat)) return ruff;
+    if (IsRuff(3))
+      if (const Integer overRuff = LowestCardAbove(TrumpSuit, ValueAt(3), seat)) return overRuff;
+  }
+  return ChooseDiscard(seat);
+}
+
+}  // namespace
+
+// The tests run in this order and the first that applies decides. Where two cards may be of
+// different suits their card numbers are compared as they stand in the pack; that makes the robots
+// err now and then, in ways their human partners and enemies have learnt to count on.
+bool PartnerWinningFourth() {
+  return ReportErrors("PartnerWinningFourth", [] {
+    const Integer first = TrickCards[1];
+    const Integer second = TrickCards[2];
+    const Integer third = TrickCards[3];
+    const bool trumpsLed = LedSuit == TrumpSuit;
+    const bool bothFollow = FollowsSuit(2) && FollowsSuit(3);
+
+    if (ValueAt(1) == Ace && (trumpsLed || !IsRuff(2))) return false;
+    if (bothFollow && ValueAt(2) != Ace && second < std::min(first, third)) return false;
+    if (trumpsLed && IsRuff(2) && ValueAt(2) == Ace) return true;
+    if (!trumpsLed && IsRuff(2) && !IsRuff(3)) return true;
+    if (bothFollow && second > std::max(first, third)) return true;
+    if (trumpsLed) return false;
+    if (IsRuff(3) && !IsRuff(2)) return false;
+    if (!IsRuff(3) && second > third) return true;
+    return ValueAt(2) == Ace;
+  });
+}
+
+Integer ChooseFourthCard(Integer seat) {
+  return HasStartSuitQuery(seat) ? FollowSuitFourth(seat) : DiscardOrRuffFourth(seat);
+}
+
+void PlayFourthCard(Integer seat) {
+  ReportErrors("PlayFourthCard", [seat] {
+    const Integer card = ChooseFourthCard(seat);
+    RecordInTrick(4, card);
+    PlayCard(seat, card);
+  });
+}
+
+}  // namespace Parlino

@@ -1,0 +1,82 @@
+#include "robots/SecondAndThirdHand.h"
+
+#include "engine/TrickPlay.h"
+#include "robots/Hands.h"
+#include "robots/Lead.h"
+#include "table/ErrorReport.h"
+
+namespace Parlino {
+namespace {
+
+Integer LedValue() {
+  return Pack[TrickCards[1]].Value;
+}
+Integer SecondValue() {
+  return Pack[TrickCards[2]].Value;
+}
+
+// Third hand with a card of the led suit: low behind a winning partner and behind a ruff or an Ace,
+// otherwise the cheapest card that beats the second.
+Integer FollowSuitThird(Integer seat) {
+  const Integer lowest = LowestCardSuit(LedSuit, seat);
+  if (LedValue() == Ace || PartnerWinningThird()) return lowest;
+  if (TrickSuits[2] != LedSuit) return lowest;
+  const Integer above = LowestCardAbove(LedSuit, SecondValue(), seat);
+  return above != 0 ? above : lowest;
+}
+
+// Third hand void in the led suit: over-ruffs a ruff when it can, and otherwise discards, also when
+// the second card has won in the led suit.
+Integer DiscardOrOverRuffThird(Integer seat) {
+  if (!PartnerWinningThird() && LedSuit != TrumpSuit && TrickSuits[2] == TrumpSuit)
+    if (const Integer overRuff = LowestCardAbove(TrumpSuit, SecondValue(), seat)) return overRuff;
+  return ChooseDiscard(seat);
+}
+
+}  // namespace
+
+bool BeatStartCardQuery(Integer who) {
+  return ReportErrors("BeatStartCardQuery", [who] {
+    if (HasStartSuitQuery(who)) return LowestCardAbove(LedSuit, LedValue(), who) != 0;
+    return LedSuit != TrumpSuit && LowestCardSuit(TrumpSuit, who) != 0;
+  });
+}
+
+bool PartnerWinningThird() {
+  return ReportErrors("PartnerWinningThird", [] {
+    if (TrickSuits[2] == LedSuit) return LedValue() > SecondValue();
+    return TrickSuits[2] != TrumpSuit;  // a third suit beats nothing, a ruff beats the lead
+  });
+}
+
+Integer ChooseSecondCard(Integer seat) {
+  if (HasStartSuitQuery(seat)) {
+    if (LedValue() == Ace || !BeatStartCardQuery(seat)) return LowestCardSuit(LedSuit, seat);
+    return LowestCardAbove(LedSuit, LedValue(), seat);
+  }
+  if (LedSuit != TrumpSuit)
+    if (const Integer ruff = LowestCardSuit(TrumpSuit, seat)) return ruff;
+  return ChooseDiscard(seat);
+}
+
+Integer ChooseThirdCard(Integer seat) {
+  return HasStartSuitQuery(seat) ? FollowSuitThird(seat) : DiscardOrOverRuffThird(seat);
+}
+
+void PlaySecondCard(Integer seat) {
+  ReportErrors("PlaySecondCard", [seat] {
+    const Integer card = ChooseSecondCard(seat);
+    RecordInTrick(2, card);
+    PlayCard(seat, card);
+  });
+}
+
+void PlayThirdCard(Integer seat) {
+  ReportErrors("PlayThirdCard", [seat] {
+    const Integer card = ChooseThirdCard(seat);
+    RecordInTrick(3, card);
+    PlayCard(seat, card);
+  });
+}
+
+}  // namespace Parlino

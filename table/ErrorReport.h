@@ -1,0 +1,29 @@
+// The report that a procedure gives of its own failures.
+#pragma once
+
+#include <exception>
+#include <string_view>
+#include <type_traits>
+
+namespace Parlino {
+
+inline constexpr std::string_view ApplicationTitle = "Parlino";
+
+// Shows the report box for an error caught in `procedure`.
+void ShowErrorReport(std::string_view procedure, const std::exception& error);
+
+// Runs the body of `procedure`. An error in it is shown to the player and the procedure is left,
+// with a zero result where it has one; an abandoned hand and the end of the program pass through,
+// for they are no errors.
+template <class Body>
+auto ReportErrors(std::string_view procedure, Body&& body) -> std::invoke_result_t<Body> {
+  using Result = std::invoke_result_t<Body>;
+  try {
+    return body();
+  } catch (const std::exception& error) {
+    ShowErrorReport(procedure, error);
+  }
+  if constexpr (!std::is_void_v<Result>) return Result{};
+}
+
+}  // namespace Parlino

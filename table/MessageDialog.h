@@ -1,0 +1,59 @@
+// The message dialog MFormDeluxe: its model, and the procedure that shows it and waits.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "engine/Indexed.h"
+
+namespace Parlino {
+
+// A box in twips, measured inside the dialog window.
+struct DialogBox {
+  int Left = 0;
+  int Top = 0;
+  int Width = 0;
+  int Height = 0;
+};
+
+struct ButtonFace {
+  DialogBox Pic1;      // the face
+  std::string Label1;  // its caption
+  bool Visible = false;
+  bool Pressed = false;  // drawn pushed in, its caption moved by a pixel
+};
+
+struct MessageDialogView {
+  bool Visible = false;
+  int Left = 0;  // of the window on the screen, twips
+  int Top = 0;
+  int Width = 4500;
+  int Height = 2000;
+  std::string Label3;  // the title strip: three blanks and the title
+  DialogBox Label3Place;
+  std::string Label2;  // the prompt
+  DialogBox Label2Place;
+  int Picture = 0;  // 1 smiling, 2 frowning, 3 a small drawing
+  DialogBox Picture1;
+  Indexed<ButtonFace, 0, 2> Faces;
+};
+
+inline MessageDialogView MFormDeluxe;
+
+// Sizes and places everything in the dialog for a prompt `promptHeight` twips high on a screen of
+// the given size; the captions are already set. Nothing is shown.
+void LayOutMessageDialog(MessageDialogView& dialog, int promptHeight, int screenWidth,
+                         int screenHeight);
+
+// Shows the dialog and waits for the answer, which MessageChoice then holds: 0 for the first
+// button, 1 for the second, 2 for the third. A button with an empty caption is not shown, the
+// first always is. `pictureNumber` is 1..3. The table takes no input meanwhile.
+void ShowMessage(std::string_view prompt, std::string_view firstButton,
+                 std::string_view secondButton, std::string_view thirdButton, Integer pictureNumber,
+                 std::string_view title);
+
+// The dialog's events: the button `index` 0..2 goes down; it is clicked, which is the answer.
+void Label1_MouseDown(Integer index);
+void Label1_Click(Integer index);
+
+}  // namespace Parlino

@@ -1,0 +1,67 @@
+#include "table/TableEvents.h"
+
+#include "table/MessageDialog.h"
+#include "table/TableView.h"
+
+namespace Parlino {
+namespace {
+
+bool Raise(TableEvents::Handler handler) {
+  if (!TableTakesInput() || handler == nullptr) return false;
+  handler();
+  return true;
+}
+
+bool RaiseOn(const Control& control, TableEvents::IndexHandler handler, int index) {
+  if (!control.Visible || !TableTakesInput() || handler == nullptr) return false;
+  handler(ToInteger(index));
+  return true;
+}
+
+bool TakesAnswer(int button) {
+  return MFormDeluxe.Visible && MFormDeluxe.Faces[button].Visible;
+}
+
+}  // namespace
+
+bool TableTakesInput() {
+  return Table.FrmMain.Visible && !MFormDeluxe.Visible;
+}
+
+bool ClickCard(int card) {
+  return RaiseOn(Table.Cds[card], Events.Cds_Click, card);
+}
+
+bool HoverCard(int card) {
+  return RaiseOn(Table.Cds[card], Events.Cds_MouseMove, card);
+}
+
+bool ClickBid(int tricks) {
+  return Table.LblBids[tricks].Visible && RaiseOn(Table.FramBids, Events.LblBids_Click, tricks);
+}
+
+bool ClickDontShow() {
+  return Table.CmdDontShow.Visible && Raise(Events.CmdDontShow_Click);
+}
+
+bool ChooseMenu(MenuItem item) {
+  return Raise(Events.MenuClick[static_cast<int>(item)]);
+}
+
+bool CloseTableWindow() {
+  return Raise(Events.Form_QueryUnload);
+}
+
+bool PressAnswer(int button) {
+  if (!TakesAnswer(button)) return false;
+  Label1_MouseDown(ToInteger(button));
+  return true;
+}
+
+bool ClickAnswer(int button) {
+  if (!TakesAnswer(button)) return false;
+  Label1_Click(ToInteger(button));
+  return true;
+}
+
+}  // namespace Parlino

@@ -1,0 +1,57 @@
+// The events of the table and the doors through which they are raised. A person at the window, a
+// script and a test all come in here, and a door opens only where a person could get at the
+// control: while it is to be seen and no dialog stands before it.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "engine/Errors.h"
+
+namespace Parlino {
+
+enum class MenuItem {
+  MnuNew,
+  MnuLoad,
+  MnuSave,
+  MnuExit,
+  MnuRules,
+  MnuAbout,
+  MnuPname,
+  MnuNameBot1,
+  MnuNameBot2,
+  MnuBot3Name,
+  MnuView,
+  ErasePoints,
+};
+
+// The handlers, bound once at the start of the program. An item without an action stays empty.
+struct TableEvents {
+  using Handler = void (*)();
+  using IndexHandler = void (*)(Integer index);
+
+  Handler Form_Load = nullptr;
+  Handler Form_QueryUnload = nullptr;
+  IndexHandler Cds_Click = nullptr;
+  IndexHandler Cds_MouseMove = nullptr;
+  IndexHandler LblBids_Click = nullptr;
+  Handler CmdDontShow_Click = nullptr;
+  Handler MenuClick[12] = {};  // by MenuItem
+};
+
+inline TableEvents Events;
+
+// Whether the table window is open and no message dialog is in front of it.
+bool TableTakesInput();
+
+// Each raises its event and returns true, or does nothing and returns false.
+bool ClickCard(int card);
+bool HoverCard(int card);
+bool ClickBid(int tricks);
+bool ClickDontShow();
+bool ChooseMenu(MenuItem item);
+bool CloseTableWindow();  // by its close box
+bool PressAnswer(int button);
+bool ClickAnswer(int button);
+
+}  // namespace Parlino

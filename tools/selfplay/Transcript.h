@@ -1,0 +1,47 @@
+// Watches the table while hands are played and writes each of them as one line of JSON.
+#pragma once
+
+#include <cstdint>
+#include <ostream>
+#include <string_view>
+#include <vector>
+
+#include "engine/GameState.h"
+
+namespace Parlino {
+
+class Transcript {
+ public:
+  explicit Transcript(std::ostream& out) : out_(out) {}
+
+  void WriteHeader(std::uint64_t seed, int hands, std::string_view south);
+
+  // Notes what has happened since the last look; called at every chance to process events, which
+  // comes at least once for every card dealt and every trick.
+  void Look();
+
+  // Writes the hand just scored, number `hand`, and begins the next.
+  void WriteHand(int hand, bool gameOver);
+
+ private:
+  struct DealtCard {
+    Integer seat;
+    int card;
+  };
+  struct Trick {
+    Integer leader;
+    Indexed<Integer, 1, 4> cards;
+    Integer winner;
+  };
+
+  void WriteDeal();
+  void WriteTricks();
+  void WritePlayedList();
+
+  std::ostream& out_;
+  std::vector<DealtCard> deal_;
+  std::vector<bool> dealt_ = std::vector<bool>(CardsInPack + 1);
+  std::vector<Trick> tricks_;
+};
+
+}  // namespace Parlino
