@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "engine/CardSet.h"
 #include "engine/Indexed.h"
 
 namespace Parlino {
@@ -111,6 +112,18 @@ inline constexpr Integer FirstCardOf(int suit) {
 
 inline constexpr Integer CardNumber(int value, int suit) {
   return static_cast<Integer>(FirstCardOf(suit) + value - 2);
+}
+
+// The cards of one suit in the hand of the seat: a fresh look through the pack.
+inline CardSet HandOf(Integer seat, Integer suit) {
+  return CardSet::OfSuit(FirstCardOf(suit),
+                         [seat](int card) { return Pack[card].Owner == seat; });
+}
+
+// The whole hand of the seat.
+inline CardSet HandOf(Integer seat) {
+  return HandOf(seat, Diamonds) | HandOf(seat, Clubs) | HandOf(seat, Hearts) |
+         HandOf(seat, Spades);
 }
 
 // "Diamonds".."Spades" for a suit 4..7.

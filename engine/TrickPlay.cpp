@@ -92,9 +92,7 @@ void PlayCard(Integer seat, Integer card) {
 
 bool HasStartSuitQuery(Integer seat) {
   return ReportErrors("HasStartSuitQuery", [seat] {
-    const Integer first = FirstCardOf(LedSuit);
-    for (int card = first; card < first + CardsInSuit; ++card)
-      if (Pack[card].Owner == seat) return true;
+    if (!HandOf(seat, LedSuit).IsEmpty()) return true;
     PauseMs = DefaultPauseMs;
     return false;
   });

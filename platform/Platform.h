@@ -66,7 +66,9 @@ class Platform {
 };
 
 // The platform in use. Set once, before anything else of the game runs.
-void UsePlatform(Platform& platform);
-Platform& ThePlatform();
+inline Platform* PlatformInUse = nullptr;
+
+inline void UsePlatform(Platform& platform) { PlatformInUse = &platform; }
+inline Platform& ThePlatform() { return *PlatformInUse; }
 
 }  // namespace Parlino

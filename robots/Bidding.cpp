@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "robots/Hands.h"
 #include "table/ErrorReport.h"
 
 namespace Parlino {
@@ -11,7 +10,10 @@ namespace {
 
 // One trick for every Ace and King, trumps included.
 int TopCards(Integer seat) {
-  return CountCards(seat, [](const Card& card) { return card.Value >= King; });
+  int count = 0;
+  for (Integer suit = Diamonds; suit <= Spades; ++suit)
+    count += HandOf(seat, suit).Between(CardNumber(King, suit), CardNumber(Ace, suit)).Count();
+  return count;
 }
 
 // Two tricks for a void side suit, one for a singleton. Only the first short suit of this order
@@ -30,18 +32,19 @@ int ShortSuitBonus() {
 
 // Trumps below the King, worth half a trick each.
 int LowerTrumps(Integer seat) {
-  return CountCards(seat,
-                    [](const Card& card) { return card.Suit == TrumpSuit && card.Value < King; });
+  return HandOf(seat, TrumpSuit)
+      .Between(CardNumber(2, TrumpSuit), CardNumber(Queen, TrumpSuit))
+      .Count();
 }
 
 }  // namespace
 
 void SuitTotals(Integer seat) {
   ReportErrors("SuitTotals", [seat] {
-    DiamondsTotal = CountOfSuit(seat, Diamonds);
-    ClubsTotal = CountOfSuit(seat, Clubs);
-    HeartsTotal = CountOfSuit(seat, Hearts);
-    SpadesTotal = CountOfSuit(seat, Spades);
+    DiamondsTotal = HandOf(seat, Diamonds).Count();
+    ClubsTotal = HandOf(seat, Clubs).Count();
+    HeartsTotal = HandOf(seat, Hearts).Count();
+    SpadesTotal = HandOf(seat, Spades).Count();
   });
 }
 

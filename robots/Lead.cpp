@@ -49,7 +49,7 @@ void PlayFirstCard(Integer seat) {
 }
 
 Integer LowestCardSuit(Integer suit, Integer seat) {
-  return ReportErrors("LowestCardSuit", [suit, seat] { return LowestCardAbove(suit, 1, seat); });
+  return ReportErrors("LowestCardSuit", [suit, seat] { return HandOf(seat, suit).Lowest(); });
 }
 
 Integer MostSuitCards(Integer seat) {

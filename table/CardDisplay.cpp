@@ -58,8 +58,7 @@ TrickPile& TrickPileOf(int seat) {
 void LayOutHand(Integer seat) {
   const HandLayout& layout = HandLayouts[seat];
   TablePoint place = layout.first;
-  for (Integer card = 1; card <= CardsInPack; ++card) {
-    if (Pack[card].Owner != seat) continue;
+  for (const Integer card : HandOf(seat)) {
     SetPicture(Table.Cds[card], layout.picture == 0 ? card : layout.picture);
     MoveTo(Table.Cds[card], place);
     place.Left += layout.step.Left;

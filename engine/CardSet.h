@@ -1,0 +1,66 @@
+// A set of card numbers, walked from the lowest to the highest, which is the order in which a hand
+// is sorted on the table and looked through by the robots.
+#pragma once
+
+#include <bit>
+#include <cstdint>
+
+#include "engine/Errors.h"
+
+namespace Parlino {
+
+class CardSet {
+ public:
+  class Walk {
+   public:
+    explicit Walk(std::uint64_t left) : left_(left) {}
+    Integer operator*() const { return static_cast<Integer>(std::countr_zero(left_)); }
+    Walk& operator++() {
+      left_ &= left_ - 1;
+      return *this;
+    }
+    bool operator==(const Walk&) const = default;
+
+   private:
+    std::uint64_t left_;
+  };
+
+  CardSet() = default;
+
+  // The cards of the suit beginning with card `first` for which the condition holds. Built without a
+  // branch, because whose a card is cannot be predicted.
+  template <class Condition>
+  static CardSet OfSuit(int first, Condition holds) {
+    CardSet set;
+    for (int place = 12; place >= 0; --place)
+      set.bits_ = set.bits_ << 1 | std::uint64_t{holds(first + place)};
+    set.bits_ <<= first;
+    return set;
+  }
+
+  CardSet operator|(CardSet other) const {
+    other.bits_ |= bits_;
+    return other;
+  }
+
+  [[nodiscard]] Walk begin() const { return Walk(bits_); }
+  [[nodiscard]] Walk end() const { return Walk(0); }
+  [[nodiscard]] bool IsEmpty() const { return bits_ == 0; }
+  [[nodiscard]] Integer Count() const { return static_cast<Integer>(std::popcount(bits_)); }
+  [[nodiscard]] bool Holds(int card) const { return (bits_ >> card & 1) != 0; }
+  // 0 when the set is empty.
+  [[nodiscard]] Integer Lowest() const { return IsEmpty() ? Integer{0} : *begin(); }
+
+  // The cards from `first` to `last`, both included, that are in the set.
+  [[nodiscard]] CardSet Between(int first, int last) const {
+    CardSet part;
+    if (first <= last)
+      part.bits_ = bits_ & (~std::uint64_t{0} << first) & (~std::uint64_t{0} >> (63 - last));
+    return part;
+  }
+
+ private:
+  std::uint64_t bits_ = 0;  // bit n for card n
+};
+
+}  // namespace Parlino
