@@ -1,0 +1,30 @@
+#include "tools/picture-maker/Suit.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace Parlino {
+namespace {
+
+// The two reds and the two blacks differ in tone as well: one leans to orange,
+// one to green, so a glance at a colour is already half the answer.
+constexpr std::array Suits{
+    Suit{"diamonds", "#dc2f08", "#fff3d2"},
+    Suit{"clubs", "#0b4526", "#e6f3dc"},
+    Suit{"hearts", "#c3002f", "#ffe6e4"},
+    Suit{"spades", "#0a0a1e", "#e2e8f8"},
+};
+
+}  // namespace
+
+const Suit& SuitOfCard(int card) {
+  return Suits.at(static_cast<unsigned>((card - 1) / 13));
+}
+
+const Suit& SuitNamed(const char* name) {
+  return *std::ranges::find(Suits, std::string_view(name),
+                            [](const Suit& suit) { return std::string_view(suit.name); });
+}
+
+}  // namespace Parlino
