@@ -47,7 +47,6 @@ class CardSet {
   [[nodiscard]] Walk end() const { return Walk(0); }
   [[nodiscard]] bool IsEmpty() const { return bits_ == 0; }
   [[nodiscard]] Integer Count() const { return static_cast<Integer>(std::popcount(bits_)); }
-  [[nodiscard]] bool Holds(int card) const { return (bits_ >> card & 1) != 0; }
   // 0 when the set is empty.
   [[nodiscard]] Integer Lowest() const { return IsEmpty() ? Integer{0} : *begin(); }
 

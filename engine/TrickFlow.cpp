@@ -67,13 +67,13 @@ bool GameIsOver() {
 }
 
 void OfferNextHand() {
+  constexpr std::string_view ending =
+      " Total score not reached, or scores are the same. Click Next Hand or Save and Exit";
   ShowMessage(
       JoinText({PlayerName, " and ", SeatNames[North], " have scored ", OurHandScore,
                 " for this hand making a total score todate of ", OurPoints, " and  ",
                 SeatNames[West], " and ", SeatNames[East], " score this hand is ", TheirHandScore,
-                " their total score todate is  ", TheirPoints, " ",
-                " Total score not reached, or scores are the same. Click Next Hand or Save and "
-                "Exit"}),
+                " their total score todate is  ", TheirPoints, " ", ending}),
       "Next Hand", "Save and Exit", "", 3, "Scores");
   if (MessageChoice == 0) return;
   GameInProgress = True;

@@ -123,7 +123,8 @@ inline TableView Table;
 // the engine keep the captions given here.
 void OpenTable();
 
-// Operations. Each changes the properties of one control and returns at once.
+// Operations. Each changes the properties of one control and returns at once. A picture or a place
+// set to what it was counts as a change as well: a comparison would cost a hand more than it saves.
 
 inline void NoteChange(Control& control) {
   control.Changed = ++Table.Changes;
@@ -152,7 +153,6 @@ inline void BringToFront(Control& control) {
 // Gives the box picture `picture` of ImgPics; its size becomes that of the picture, its place
 // stays.
 inline void SetPicture(PictureBox& box, Integer picture) {
-  if (box.Picture == picture) return;
   box.Picture = picture;
   NoteChange(box);
 }
@@ -162,12 +162,8 @@ void SetToolTip(PictureBox& box, Pieces pieces);
 
 // Moves the control's top left corner; units are twips.
 inline void MoveTo(Control& control, TablePoint place) {
-  if (control.Place == place) return;
   control.Place = place;
   NoteChange(control);
-}
-inline void MoveLeft(Control& control, double left) {
-  MoveTo(control, {left, control.Place.Top});
 }
 
 // Creates Cds[2]..Cds[52] as hidden copies of Cds[1].

@@ -1,6 +1,5 @@
 #include "tools/selfplay/South.h"
 
-#include <algorithm>
 #include <string_view>
 
 #include "engine/TrickPlay.h"
@@ -18,7 +17,7 @@ constexpr double PlayersRow = 6600;  // where the Player's hand lies, twips
 
 bool LiesInPlayersHand(int card) {
   const PictureBox& picture = Table.Cds[card];
-  return picture.Place.Top == PlayersRow && picture.Visible && picture.Picture == card;
+  return (picture.Picture == card) & picture.Visible & (picture.Place.Top == PlayersRow);
 }
 
 int ChooseCardAsRobot() {
@@ -34,14 +33,19 @@ int ChooseCardAsRobot() {
   }
 }
 
-// Of the cards, those of the suit led; all of them when there is none or nothing has been led.
-void KeepPlayable(std::vector<int>& cards) {
+CardSet HandOnTable() {
+  CardSet hand;
+  for (int suit = Diamonds; suit <= Spades; ++suit)
+    hand = hand | CardSet::OfSuit(FirstCardOf(suit), LiesInPlayersHand);
+  return hand;
+}
+
+// Those of the suit led, or all of them when there is none or nothing has been led.
+CardSet Playable(CardSet hand) {
   const int suit = SuitLedByList();
-  if (suit == 0) return;
-  const int first = FirstCardOf(suit);
-  const auto isOfSuit = [first](int card) { return card >= first && card < first + CardsInSuit; };
-  if (std::any_of(cards.begin(), cards.end(), isOfSuit))
-    std::erase_if(cards, [&](int card) { return !isOfSuit(card); });
+  if (suit == 0) return hand;
+  const CardSet following = hand.Between(FirstCardOf(suit), FirstCardOf(suit) + CardsInSuit - 1);
+  return following.IsEmpty() ? hand : following;
 }
 
 }  // namespace
@@ -72,11 +76,10 @@ int South::ChooseBid() {
 
 int South::ChooseCard() {
   if (kind_ == SouthKind::Robot) return ChooseCardAsRobot();
-  cards_.clear();
-  for (int card = 1; card <= CardsInPack; ++card)
-    if (LiesInPlayersHand(card)) cards_.push_back(card);
-  KeepPlayable(cards_);
-  return cards_.at(static_cast<std::size_t>(generator_.NextBelow(static_cast<int>(cards_.size()))));
+  const CardSet cards = Playable(HandOnTable());
+  auto choice = cards.begin();
+  for (int skipped = generator_.NextBelow(cards.Count()); skipped > 0; --skipped) ++choice;
+  return *choice;
 }
 
 }  // namespace Parlino

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
 
 #include "engine/Generator.h"
 
@@ -24,7 +23,6 @@ class South {
 
   SouthKind kind_;
   Generator generator_;
-  std::vector<int> cards_;
 };
 
 // The suit that the list of cards played says was led to the trick on the table, 4..7; 0 when the

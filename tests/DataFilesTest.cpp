@@ -1,0 +1,296 @@
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <gtest/gtest.h>
+#include <tuple>
+
+#include "engine/StartUp.h"
+#include "persistence/DataFiles.h"
+#include "persistence/Records.h"
+#include "platform/FolderFiles.h"
+#include "table/MessageDialog.h"
+#include "table/TableEvents.h"
+#include "table/TableView.h"
+#include "tests/support/HeadlessGame.h"
+
+namespace Parlino {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct SavedGame {
+  int ours;
+  int theirs;
+  Flag inProgress;
+  bool operator==(const SavedGame&) const = default;
+};
+
+SavedGame CurrentGame() {
+  return {OurPoints, TheirPoints, GameInProgress};
+}
+
+struct SavedGameCase {
+  std::string_view file;
+  bool good;
+  SavedGame expected;
+};
+
+TEST(DataFiles, ReadASavedGameWholeOrNotAtAll) {
+  const SavedGame before{7, 8, True};
+  for (const SavedGameCase& example : {
+           SavedGameCase{"120,-35,#TRUE#\r\n", true, {120, -35, True}},
+           SavedGameCase{"120,-35,#TRUE#\n", true, {120, -35, True}},
+           SavedGameCase{"120,-35,#TRUE#", true, {120, -35, True}},
+           SavedGameCase{" 120, -35, #FALSE#\r\n", true, {120, -35, False}},
+           SavedGameCase{"\xEF\xBB\xBF"
+                         "1,2,#TRUE#\r\n",
+                         true,
+                         {1, 2, True}},
+           SavedGameCase{"32767,-32768,#TRUE#\r\n", true, {32767, -32768, True}},
+           SavedGameCase{"32768,0,#TRUE#\r\n", false, before},
+           SavedGameCase{"120,-32769,#TRUE#\r\n", false, before},
+           SavedGameCase{"120,-35,TRUE\r\n", false, before},
+           SavedGameCase{"120,-35\r\n", false, before},
+           SavedGameCase{"120,-35,#TRUE#,4\r\n", false, before},
+           SavedGameCase{"120,-35,#TRUE#\r\n1\r\n", false, before},
+           SavedGameCase{"12x,-35,#TRUE#\r\n", false, before},
+           SavedGameCase{",,\r\n", false, before},
+           SavedGameCase{"", false, before},
+           SavedGameCase{std::string_view("120,-35\0,#TRUE#\r\n", 17), false, before},
+       }) {
+    HeadlessGame game;
+    std::tie(OurPoints, TheirPoints, GameInProgress) = std::tuple(Integer{7}, Integer{8}, True);
+    game.platform.files["SaveGame.dat"] = example.file;
+    if (example.good) {
+      EXPECT_NO_THROW(ReadSaveGame()) << example.file;
+    } else {
+      EXPECT_THROW(ReadSaveGame(), GameError) << example.file;
+    }
+    EXPECT_TRUE(CurrentGame() == example.expected) << example.file;
+    EXPECT_EQ(game.platform.files.contains("SaveGame.dat.bad"), !example.good) << example.file;
+  }
+}
+
+// Cut at every length and changed at every byte, a record loads whole or is refused whole.
+TEST(DataFiles, SurviveEveryCutAndEveryChangedByte) {
+  const std::string record =
+      "\"Ann\",\"Be, a\",\"\",\"D\xC3\xA9"
+      "d\"\r\n";
+  const auto tryRecord = [](const std::string& text) {
+    HeadlessGame game;
+    PlayerName = "kept";
+    game.platform.files["Names2.dat"] = text;
+    try {
+      ReadNames();
+      EXPECT_EQ(PlayerName.find_first_of("\"\r\n"), std::string::npos) << text;
+    } catch (const GameError&) {
+      EXPECT_EQ(PlayerName, "kept") << text;
+      EXPECT_EQ(game.platform.files["Names2.dat.bad"], text);
+    }
+  };
+  for (std::size_t length = 0; length <= record.size(); ++length)
+    tryRecord(record.substr(0, length));
+  for (std::size_t place = 0; place < record.size(); ++place)
+    for (int byte = 0; byte < 256; ++byte) {
+      std::string changed = record;
+      changed[place] = static_cast<char>(byte);
+      tryRecord(changed);
+    }
+}
+
+TEST(DataFiles, KeepNamesButForWhatARecordCannotHold) {
+  struct {
+    std::string given;
+    std::string kept;
+  } const cases[] = {
+      {"West Bot", "West Bot"},
+      {"Smith, John", "Smith, John"},
+      {"", ""},
+      {"J\xC3\xBCrgen \xE2\x99\xA5", "J\xC3\xBCrgen \xE2\x99\xA5"},
+      {"a \"quoted\" one", "a quoted one"},
+      {"two\r\nlines\t\x7F", "twolines"},
+      {"line\xE2\x80\xA8separator\xC2\x85", "lineseparator"},
+      {std::string(5000, 'x'), std::string(5000, 'x')},
+  };
+  for (const auto& example : cases) {
+    HeadlessGame game;
+    HeadlessGame::Load();
+    game.platform.answerInputBox = [&](auto, auto, auto) { return example.given; };
+    ChooseMenu(MenuItem::MnuNameBot2);
+    EXPECT_EQ(SeatNames[North], example.kept);
+    SeatNames[North] = "forgotten";
+    ReadNames();
+    EXPECT_EQ(SeatNames[North], example.kept);
+    EXPECT_EQ(Table.LblName[2].Caption, example.kept + " - Hello and Welcome Player");
+  }
+}
+
+struct StartCase {
+  const char* what;
+  const char* file;
+  const char* content;  // nullptr removes the file
+  const char* report;
+};
+
+TEST(StartUp, ReportsABadFileAndGoesOnWithItsFirstValues) {
+  for (const StartCase& example :
+       {StartCase{"missing names", "Names2.dat", nullptr, "Names2.dat cannot be read"},
+        StartCase{"bad names", "Names2.dat", "\"Ann", "Names2.dat cannot be understood: a double"},
+        StartCase{"bad points", "Points.dat", "1\r\n", "Points.dat cannot be understood: field 2"},
+        StartCase{"bad game", "SaveGame.dat", "1,2,3\r\n", "SaveGame.dat cannot be understood"},
+        StartCase{"bad wish", "Welcome.dat", "TRUE", "Welcome.dat cannot be understood"}}) {
+    HeadlessGame game;
+    game.platform.files["Points.dat"] = "3,7\r\n";
+    if (example.content == nullptr)
+      game.platform.files.erase(example.file);
+    else
+      game.platform.files[example.file] = example.content;
+    Form_Load();
+    EXPECT_TRUE(Recorded(game.platform, "Unexpected error in procedure: Form_Load\nError #"));
+    EXPECT_TRUE(Recorded(game.platform, example.report)) << example.what;
+    EXPECT_EQ(PlayerName, "Player") << example.what;
+    EXPECT_EQ(GamesPlayed, std::string_view(example.file) == "Points.dat" ? 0 : 7);
+    EXPECT_TRUE(Table.FrmMain.Visible && Table.Cds[52].Exists) << example.what;
+    EXPECT_EQ(PauseMs, 150) << example.what;
+    EXPECT_FALSE(game.platform.files.contains(example.file)) << "nothing is repaired at start-up";
+  }
+}
+
+TEST(StartUp, GreetsAndShowsOrSkipsTheWelcomePanel) {
+  for (const bool hidden : {false, true}) {
+    HeadlessGame game;
+    game.platform.files["Welcome.dat"] = hidden ? "#TRUE#\r\n" : "#FALSE#\r\n";
+    game.platform.files["Names2.dat"] = "\"Ann\",\"Bob\",\"Cid\",\"Dee\"\r\n";
+    Form_Load();
+    EXPECT_EQ(Table.LblName[0].Caption, "Ann");
+    EXPECT_EQ(Table.LblName[1].Caption, "Bob- Welcome Ann");
+    EXPECT_EQ(Table.LblName[2].Caption, "Cid - Hello and Welcome Ann");
+    EXPECT_EQ(Table.LblName[3].Caption, "Dee - Hi ");
+    EXPECT_EQ(Table.LblName[1].Place, (TablePoint{1815, 2400}));
+    EXPECT_EQ(SeatNames[0], "Ann");
+    EXPECT_EQ(Table.lblTitle.Visible, !hidden);
+    EXPECT_EQ(Table.LblIntro.Visible && Table.CmdDontShow.Visible, !hidden);
+    EXPECT_EQ(Table.FramScores.Visible, hidden);
+    EXPECT_EQ(Table.Shape1.Visible, hidden);
+    EXPECT_EQ(Table.LblInfo.Caption, hidden ? " Press F2 for new game" : "");
+    ClickDontShow();
+    EXPECT_EQ(game.platform.files["Welcome.dat"], "#TRUE#\r\n");
+  }
+}
+
+class CommandTest : public testing::Test {
+ protected:
+  CommandTest() {
+    HeadlessGame::Load();
+    game_.platform.script = [this](std::uint32_t) {
+      title_ = MFormDeluxe.Label3;
+      ClickAnswer(answer_);
+    };
+  }
+
+  HeadlessGame game_;
+  std::string title_;
+  int answer_ = 0;
+};
+
+TEST_F(CommandTest, ViewsTheStatistics) {
+  struct {
+    Integer won;
+    Integer played;
+    const char* title;
+  } const cases[] = {
+      {0, 0, "   They are Winning"}, {1, 2, "   They are Winning"}, {2, 3, "   Beating 'Em"}};
+  for (const auto& example : cases) {
+    GamesWon = example.won;
+    GamesPlayed = example.played;
+    ChooseMenu(MenuItem::MnuView);
+    EXPECT_EQ(title_, example.title);
+  }
+  EXPECT_EQ(MFormDeluxe.Label2, "Player You are now winning 2 out of  3");
+}
+
+TEST_F(CommandTest, ErasesTheStatisticsOnlyOnYes) {
+  for (const int answer : {1, 0}) {
+    GamesWon = 3;
+    GamesPlayed = 7;
+    game_.platform.files["Points.dat"] = "3,7\r\n";
+    answer_ = answer;
+    ChooseMenu(MenuItem::ErasePoints);
+    EXPECT_EQ(GamesPlayed, answer == 0 ? 0 : 7);
+    EXPECT_EQ(game_.platform.files["Points.dat"], answer == 0 ? "0,0\r\n" : "3,7\r\n");
+  }
+}
+
+TEST_F(CommandTest, AFileThatCannotBeWrittenIsSaidAndTheGameGoesOn) {
+  game_.platform.filesCanBeWritten = false;
+  game_.platform.answerInputBox = [](auto, auto, auto) { return "Ann"; };
+  ChooseMenu(MenuItem::MnuPname);
+  EXPECT_TRUE(Recorded(game_.platform, "Names2.dat cannot be written: Read-only file system"));
+  EXPECT_FALSE(Recorded(game_.platform, "critical box"));
+  EXPECT_EQ(Table.LblName[0].Caption, "Ann");
+}
+
+TEST(FirstRecords, AreWhatTheProgramIsInstalledWith) {
+  for (const FirstRecord& first : FirstRecords) {
+    std::ifstream file(fs::path(PARLINO_SOURCE_FOLDER) / "assets/data" / first.file,
+                       std::ios::binary);
+    const std::string content{std::istreambuf_iterator<char>(file), {}};
+    EXPECT_EQ(content, first.record) << first.file;
+  }
+}
+
+class FolderFilesTest : public testing::Test {
+ protected:
+  FolderFilesTest() : folder_(fs::path(testing::TempDir()) / "parlino-folder-files") {
+    fs::remove_all(folder_);
+    fs::create_directory(folder_);
+  }
+  ~FolderFilesTest() override { fs::remove_all(folder_); }
+  FolderFilesTest(const FolderFilesTest&) = delete;
+  FolderFilesTest& operator=(const FolderFilesTest&) = delete;
+
+  int CountFiles() { return static_cast<int>(std::distance(fs::directory_iterator(folder_), {})); }
+
+  fs::path folder_;
+};
+
+TEST_F(FolderFilesTest, ReplaceAFileWholeAndLeaveNothingBeside) {
+  const FolderFiles files(folder_);
+  files.Replace("Points.dat", "100,200\r\n");
+  files.Replace("Points.dat", "1,2\r\n");
+  EXPECT_EQ(files.Read("Points.dat"), "1,2\r\n");
+  EXPECT_EQ(CountFiles(), 1);
+}
+
+TEST_F(FolderFilesTest, NameTheFileAndTheReasonOfAFailure) {
+  const FolderFiles files(folder_ / "gone");
+  for (const auto& attempt :
+       {std::function<void()>([&] { files.Replace("Points.dat", "1,2"); }),
+        std::function<void()>([&] { std::ignore = files.Read("Points.dat"); })}) {
+    try {
+      attempt();
+      FAIL() << "a folder that is gone was written or read";
+    } catch (const GameError& error) {
+      EXPECT_EQ(error.Number(), ENOENT);
+      EXPECT_TRUE(std::string_view(error.what()).starts_with("Points.dat cannot be "));
+    }
+  }
+  fs::create_directory(folder_ / "Names2.dat");
+  EXPECT_THROW(FolderFiles(folder_).Replace("Names2.dat", "x"), GameError);
+  EXPECT_EQ(CountFiles(), 1) << "the temporary file is taken away again";
+}
+
+TEST_F(FolderFilesTest, SetAFileAsideWithoutLosingAnOlderOne) {
+  const FolderFiles files(folder_);
+  for (const char* content : {"first", "second", "third"}) {
+    files.Replace("Names2.dat", content);
+    files.SetAside("Names2.dat");
+  }
+  EXPECT_FALSE(files.Exists("Names2.dat"));
+  EXPECT_EQ(files.Read("Names2.dat.bad"), "first");
+  EXPECT_EQ(files.Read("Names2.dat.bad2"), "second");
+  EXPECT_EQ(files.Read("Names2.dat.bad3"), "third");
+}
+
+}  // namespace
+}  // namespace Parlino

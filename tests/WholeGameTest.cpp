@@ -1,0 +1,160 @@
+// Whole hands and games through the table model, with its invariants looked at on the way.
+#include <gtest/gtest.h>
+
+#include "engine/TrickFlow.h"
+#include "game/Game.h"
+#include "persistence/DataFiles.h"
+#include "table/MessageDialog.h"
+#include "table/TableEvents.h"
+#include "table/TableView.h"
+#include "tests/support/HeadlessGame.h"
+
+namespace Parlino {
+namespace {
+
+// Plays until the player leaves, looking at the invariants at every chance.
+int PlayLookingOn(HeadlessGame& game, PlainPlayer& player) {
+  game.platform.script = [&](std::uint32_t atMostMs) {
+    if (Pack[1].Suit != 0) {
+      ASSERT_EQ(BrokenInvariant(), "");
+    }
+    player.OnEvents(atMostMs);
+  };
+  return RunGame();
+}
+
+TEST(WholeGame, PlaysManyHandsAndSavesOnLeaving) {
+  HeadlessGame game(11);
+  PlainPlayer player(60);
+  EXPECT_EQ(PlayLookingOn(game, player), 0);
+  EXPECT_EQ(player.HandsScored(), 60);
+  EXPECT_FALSE(Recorded(game.platform, "critical box"));
+  EXPECT_LE(game.platform.deepest, 3) << "calls must not nest with the number of hands";
+  EXPECT_EQ(game.platform.files[std::string(SaveGameFile)],
+            std::to_string(OurPoints) + "," + std::to_string(TheirPoints) + ",#TRUE#\r\n");
+  const std::vector<std::string> closed(game.platform.record.end() - 4, game.platform.record.end());
+  EXPECT_EQ(closed, (std::vector<std::string>{"closed: frmAbout", "closed: MFormDeluxe",
+                                              "closed: FrmMain", "closed: frmHelp"}));
+}
+
+TEST(WholeGame, CallsDoNotNestOverAThousandHands) {
+  HeadlessGame game(12);
+  PlainPlayer player(1000, 1);
+  game.platform.keepsRecord = false;
+  game.platform.script = [&](std::uint32_t atMostMs) { player.OnEvents(atMostMs); };
+  EXPECT_EQ(RunGame(), 0);
+  EXPECT_LE(game.platform.deepest, 3);
+}
+
+TEST(WholeGame, DealsInTurnWithinAGameAndShowsWhatHappened) {
+  HeadlessGame game(13);
+  PlainPlayer player(8);
+  std::vector<Integer> dealers;
+  player.onDialog = [&] {
+    dealers.push_back(Dealer);
+    EXPECT_EQ(Table.LstCardsPlayed.Count(), 65);
+    EXPECT_EQ(Table.LblPNBid.Caption, std::to_string(OurBid));
+    EXPECT_EQ(Table.LblWEBid.Caption, std::to_string(TheirBid));
+    EXPECT_EQ(Table.StatusBar1[2].Caption, "Your team points:- " + std::to_string(OurPoints));
+    EXPECT_EQ(Table.StatusBar1[3].Caption, "Their team points:- " + std::to_string(TheirPoints));
+    EXPECT_EQ(Table.LblName[0].Caption, "Player bids 3");
+    for (const PictureBox& card : Table.Cds) EXPECT_FALSE(card.Visible);
+  };
+  PlayLookingOn(game, player);
+  for (std::size_t hand = 1; hand < dealers.size(); ++hand)
+    EXPECT_EQ(dealers[hand], SeatAfter(dealers[hand - 1]));
+}
+
+TEST(WholeGame, GoesOnFromASavedGameWithWestDealing) {
+  HeadlessGame game(14);
+  game.platform.files["SaveGame.dat"] = "120,80,#TRUE#\r\n";
+  PlainPlayer player(1);
+  Integer dealer = -1;
+  int before = 0;
+  player.onDialog = [&] {
+    dealer = Dealer;
+    before = OurPoints;
+  };
+  PlayLookingOn(game, player);
+  EXPECT_EQ(dealer, West);
+  EXPECT_EQ(before, 120 + OurHandScore);
+}
+
+struct EndCase {
+  const char* what;
+  int ours;
+  int theirs;
+  const char* title;
+  int picture;
+};
+
+// Both teams bid a trick each and make it, whatever happens; the totals are set up so that the
+// hand decides.
+TEST(WholeGame, EndsTheGameOnlyAtThreeHundredAndApart) {
+  for (const EndCase& example : {EndCase{"far from the target", 0, 0, "   Scores", 3},
+                                 EndCase{"we are ahead", 2000, 0, "   Game Over", 1},
+                                 EndCase{"they are ahead", 0, 2000, "   Game Over", 2},
+                                 EndCase{"both past it", 2000, 3000, "   Game Over", 2}}) {
+    HeadlessGame game(15);
+    game.platform.files["SaveGame.dat"] =
+        std::to_string(example.ours) + "," + std::to_string(example.theirs) + ",#TRUE#\r\n";
+    PlainPlayer player(1, 1);
+    player.onDialog = [&] {
+      EXPECT_EQ(MFormDeluxe.Label3, example.title) << example.what;
+      EXPECT_EQ(MFormDeluxe.Picture, example.picture) << example.what;
+    };
+    PlayLookingOn(game, player);
+    const bool over = example.picture != 3;
+    EXPECT_EQ(GamesPlayed, over ? 1 : 0) << example.what;
+    EXPECT_EQ(GamesWon, example.picture == 1 ? 1 : 0) << example.what;
+    if (over) {
+      EXPECT_EQ(game.platform.files["SaveGame.dat"], "0,0,#FALSE#\r\n") << example.what;
+      EXPECT_EQ(game.platform.files["Points.dat"], std::to_string(GamesWon) + ",1\r\n")
+          << example.what;
+    }
+  }
+}
+
+// Two runs of one seed differ only in the totals they begin with: the first tells what the hand
+// scores, the second begins so that it ends level.
+TEST(WholeGame, EqualTotalsGoOnHoweverHigh) {
+  HeadlessGame first(16);
+  first.platform.files["SaveGame.dat"] = "0,0,#TRUE#\r\n";
+  PlainPlayer firstPlayer(1);
+  PlayLookingOn(first, firstPlayer);
+  const int lead = OurPoints - TheirPoints;
+  HeadlessGame second(16);
+  second.platform.files["SaveGame.dat"] = "1000," + std::to_string(1000 + lead) + ",#TRUE#\r\n";
+  PlainPlayer secondPlayer(1);
+  secondPlayer.onDialog = [] {
+    EXPECT_EQ(OurPoints, TheirPoints);
+    EXPECT_EQ(MFormDeluxe.Label3, "   Scores");
+  };
+  PlayLookingOn(second, secondPlayer);
+  EXPECT_EQ(secondPlayer.HandsScored(), 1);
+}
+
+TEST(WholeGame, ATotalThatWouldLeaveItsRangeIsReportedAndKept) {
+  for (const bool ours : {true, false}) {
+    HeadlessGame game(17);
+    game.platform.files["SaveGame.dat"] = ours ? "-32760,5,#TRUE#\r\n" : "5,32767,#TRUE#\r\n";
+    int handsOver = 0;
+    game.platform.onMsgBox = [&](std::string_view text) {
+      handsOver += text == " the hand is over check  the scores";
+    };
+    PlainPlayer player(1, ours ? 13 : 1);
+    game.platform.script = [&](std::uint32_t atMostMs) {
+      if (handsOver > 0 && !MFormDeluxe.Visible)
+        ChooseMenu(MenuItem::MnuExit);
+      else
+        player.OnEvents(atMostMs);
+    };
+    EXPECT_EQ(RunGame(), 0);
+    if (handsOver == 0) continue;  // their side failed its bid and stayed in range
+    EXPECT_TRUE(Recorded(game.platform, "Unexpected error in procedure: DealNewRound"));
+    EXPECT_EQ(ours ? OurPoints : TheirPoints, ours ? -32760 : 32767);
+  }
+}
+
+}  // namespace
+}  // namespace Parlino

@@ -1,0 +1,89 @@
+#include "tests/support/HeadlessGame.h"
+
+#include <algorithm>
+#include <sstream>
+
+#include "engine/Generator.h"
+#include "engine/TrickPlay.h"
+#include "game/Game.h"
+#include "table/MessageDialog.h"
+#include "table/TableEvents.h"
+#include "table/TableView.h"
+
+namespace Parlino {
+namespace {
+
+template <class Action>
+void ForEachWord(std::string_view text, Action action) {
+  std::istringstream words{std::string(text)};
+  for (std::string word; words >> word;) action(word);
+}
+
+void PlayFirstLegalCard() {
+  for (const Integer card : HandOf(Player))
+    if (MayPlayCard(Player, card, HumansPosition())) {
+      ClickCard(card);
+      return;
+    }
+}
+
+}  // namespace
+
+HeadlessGame::HeadlessGame(std::uint64_t seed) {
+  SetUpGame(platform);
+  DealGenerator.Seed(seed);
+  platform.keepsRecord = true;
+}
+
+void HeadlessGame::Load() {
+  Events.Form_Load();
+}
+
+void PlainPlayer::AnswerDialog() {
+  onDialog();
+  const bool leaving = MFormDeluxe.Label3 == "   Really Exit?";
+  if (!leaving) ++handsScored_;
+  ClickAnswer(leaving || handsScored_ < hands_ ? 0 : 1);
+}
+
+void PlainPlayer::OnEvents(std::uint32_t atMostMs) {
+  if (atMostMs != Forever) return;
+  if (MFormDeluxe.Visible)
+    AnswerDialog();
+  else if (Table.FramBids.Visible)
+    ClickBid(bid_);
+  else if (PlayerTurn != False)
+    PlayFirstLegalCard();
+  else
+    ChooseMenu(MenuItem::MnuNew);
+}
+
+Integer SuitOf(char letter) {
+  return static_cast<Integer>(Diamonds + std::string_view("DCHS").find(letter));
+}
+
+int CardOf(std::string_view letters) {
+  const auto value = std::string_view("23456789TJQKA").find(letters[0]) + 2;
+  return CardNumber(static_cast<int>(value), SuitOf(letters[1]));
+}
+
+void GiveHand(Integer seat, std::string_view cards) {
+  ForEachWord(cards, [seat](const std::string& card) { Pack[CardOf(card)].Owner = seat; });
+}
+
+void SetTrick(Integer leader, std::string_view cards) {
+  Leader = leader;
+  int position = 1;
+  ForEachWord(cards, [&](const std::string& card) {
+    RecordInTrick(position, static_cast<Integer>(CardOf(card)));
+    TrickSeats[position] = SeatAfter(leader, position - 1);
+    ++position;
+  });
+}
+
+bool Recorded(const HeadlessPlatform& platform, std::string_view text) {
+  return std::any_of(platform.record.begin(), platform.record.end(),
+                     [text](const auto& line) { return line.find(text) != std::string::npos; });
+}
+
+}  // namespace Parlino

@@ -1,0 +1,113 @@
+#include "tools/demonstration/Demonstrator.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPixmap>
+#include <QScreen>
+#include <QWidget>
+
+#include "engine/TrickPlay.h"
+#include "robots/Bidding.h"
+#include "robots/FourthHand.h"
+#include "robots/Lead.h"
+#include "robots/SecondAndThirdHand.h"
+#include "table/MessageDialog.h"
+#include "table/TableView.h"
+
+namespace Parlino {
+namespace {
+
+constexpr int ThinkingMs = 600;  // a person looks before every click
+constexpr int TrickOfPicture = 7;
+
+// Where a card can be clicked though its neighbours in the hand lie over it.
+constexpr QPoint SpotOnCard(10, 48);
+
+QWidget* FindWidget(const QString& name) {
+  for (QWidget* widget : QApplication::allWidgets())
+    if (widget->objectName() == name && widget->isVisible()) return widget;
+  return nullptr;
+}
+
+QWidget* FindWidget(const char* array, int index) {
+  return FindWidget(QStringLiteral("%1(%2)").arg(QLatin1String(array)).arg(index));
+}
+
+void PostMouse(QWidget* widget, QEvent::Type type, QPoint spot, Qt::MouseButtons buttons) {
+  const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+  QCoreApplication::postEvent(widget, new QMouseEvent(type, spot, widget->mapToGlobal(spot), button,
+                                                      buttons, Qt::NoModifier));
+}
+
+void Click(QWidget* widget, QPoint spot) {
+  if (widget == nullptr) return;
+  PostMouse(widget, QEvent::MouseMove, spot, Qt::NoButton);
+  PostMouse(widget, QEvent::MouseButtonPress, spot, Qt::LeftButton);
+  PostMouse(widget, QEvent::MouseButtonRelease, spot, Qt::NoButton);
+}
+
+void PressKey(QWidget* widget, Qt::Key key) {
+  if (widget == nullptr) return;
+  for (const auto type : {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease})
+    QCoreApplication::postEvent(widget, new QKeyEvent(type, key, Qt::NoModifier));
+}
+
+Integer ChooseCard() {
+  switch (HumansPosition()) {
+    case 1:
+      return ChooseFirstCard(Player);
+    case 2:
+      return ChooseSecondCard(Player);
+    case 3:
+      return ChooseThirdCard(Player);
+    default:
+      return ChooseFourthCard(Player);
+  }
+}
+
+}  // namespace
+
+Demonstrator::Demonstrator(std::filesystem::path folder) : folder_(std::move(folder)) {
+  startTimer(ThinkingMs);
+}
+
+void Demonstrator::timerEvent(QTimerEvent*) {
+  Act();
+}
+
+void Demonstrator::Act() {
+  if (MFormDeluxe.Visible) return LeaveWithScore();
+  if (!HasPicture("1-welcome")) {
+    TakePicture("1-welcome");
+    return PressKey(FindWidget("FrmMain"), Qt::Key_F2);
+  }
+  if (TrumpSuit >= Diamonds) TakePicture("2-dealt");
+  if (Table.FramBids.Visible) {
+    TakePicture("3-bidding");
+    return Click(FindWidget("LblBids", GetBid(Player)), {12, 12});
+  }
+  if (PlayerTurn == False) return;
+  if (TrickNumber == TrickOfPicture) TakePicture("4-middle");
+  Click(FindWidget("Cds", ChooseCard()), SpotOnCard);
+}
+
+void Demonstrator::LeaveWithScore() {
+  if (HasPicture("5-score")) return;
+  TakePicture("5-score");
+  for (int line = 0; line < Table.LstCardsPlayed.Count(); ++line)
+    cardsPlayed_.emplace_back(Table.LstCardsPlayed.Line(line));
+  QWidget* saveAndExit = FindWidget("Label1", 1);
+  if (saveAndExit != nullptr) Click(saveAndExit, saveAndExit->rect().center());
+}
+
+// The first moment of each kind is pictured, as the screen shows it.
+void Demonstrator::TakePicture(const char* name) {
+  if (HasPicture(name)) return;
+  taken_.insert(name);
+  const std::filesystem::path file = folder_ / (std::string(name) + ".png");
+  if (QApplication::primaryScreen()->grabWindow(0).save(QString::fromStdString(file.string())))
+    pictures_.push_back(file.string());
+}
+
+}  // namespace Parlino
