@@ -60,7 +60,7 @@ void HeadlessPlatform::ProcessEvents(std::uint32_t atMostMs) {
 }
 
 double HeadlessPlatform::ClockSeconds() {
-  return static_cast<double>((std::uint64_t{clockAtStart} + ticks) % MsInDay) / 1000;
+  return static_cast<double>((std::uint64_t{clockAtStart} + ticks) % MsInDay) * 0.001;
 }
 
 void HeadlessPlatform::Note(std::string_view kind, std::string_view text) {

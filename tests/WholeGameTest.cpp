@@ -49,9 +49,14 @@ TEST(WholeGame, CallsDoNotNestOverAThousandHands) {
 TEST(WholeGame, DealsInTurnWithinAGameAndShowsWhatHappened) {
   HeadlessGame game(13);
   PlainPlayer player(8);
-  std::vector<Integer> dealers;
+  Integer lastDealer = -1;
+  int handsInTurn = 0;
   player.onDialog = [&] {
-    dealers.push_back(Dealer);
+    if (lastDealer >= 0) {
+      ++handsInTurn;
+      EXPECT_EQ(Dealer, SeatAfter(lastDealer));
+    }
+    lastDealer = GameInProgress == True ? Dealer : Integer{-1};
     EXPECT_EQ(Table.LstCardsPlayed.Count(), 65);
     EXPECT_EQ(Table.LblPNBid.Caption, std::to_string(OurBid));
     EXPECT_EQ(Table.LblWEBid.Caption, std::to_string(TheirBid));
@@ -61,8 +66,7 @@ TEST(WholeGame, DealsInTurnWithinAGameAndShowsWhatHappened) {
     for (const PictureBox& card : Table.Cds) EXPECT_FALSE(card.Visible);
   };
   PlayLookingOn(game, player);
-  for (std::size_t hand = 1; hand < dealers.size(); ++hand)
-    EXPECT_EQ(dealers[hand], SeatAfter(dealers[hand - 1]));
+  EXPECT_GE(handsInTurn, 4);
 }
 
 TEST(WholeGame, GoesOnFromASavedGameWithWestDealing) {

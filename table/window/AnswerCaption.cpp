@@ -1,0 +1,40 @@
+#include "table/window/AnswerCaption.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include "table/TableEvents.h"
+#include "table/window/Design.h"
+#include "table/window/MessageWindow.h"
+#include "table/window/PendingEvents.h"
+
+namespace Parlino {
+
+AnswerCaption::AnswerCaption(int answer, PendingEvents& pending, QWidget* parent)
+    : QAbstractButton(parent) {
+  setFont(MessageFont());
+  setFocusPolicy(Qt::TabFocus);
+  connect(this, &QAbstractButton::pressed, [&pending, answer] {
+    pending.Append({PressAnswer, answer});
+  });
+  connect(this, &QAbstractButton::clicked, [&pending, answer] {
+    pending.Append({ClickAnswer, answer});
+  });
+}
+
+void AnswerCaption::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setPen(Colours::Yellow);
+  painter.drawText(rect(), Qt::AlignCenter, text());
+  if (!hasFocus()) return;
+  painter.setPen(QPen(Colours::Yellow, 1, Qt::DotLine));
+  painter.drawRect(rect().adjusted(1, 1, -2, -2));
+}
+
+void AnswerCaption::keyPressEvent(QKeyEvent* event) {
+  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (isEnter && !event->isAutoRepeat()) click();
+  if (!isEnter) QAbstractButton::keyPressEvent(event);
+}
+
+}  // namespace Parlino

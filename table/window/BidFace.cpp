@@ -1,0 +1,44 @@
+#include "table/window/BidFace.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include "table/window/Design.h"
+
+namespace Parlino {
+
+BidFace::BidFace(QWidget* parent) : QAbstractButton(parent) {
+  constexpr double points = 9.75;
+  setFont(TimesBold(points));
+  setFocusPolicy(Qt::StrongFocus);
+  setAttribute(Qt::WA_Hover);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void BidFace::ShowModel(const BidButton& button) {
+  setText(QString::fromStdString(button.Caption));
+  setToolTip(QString::fromStdString(button.ToolTipText));
+}
+
+void BidFace::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  QColor face = Colours::Olive;
+  if (isDown())
+    face = face.darker(130);
+  else if (underMouse())
+    face = face.lighter(125);
+  painter.fillRect(rect(), face);
+  painter.setPen(Colours::Black);
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  if (hasFocus()) painter.drawRect(rect().adjusted(2, 2, -3, -3));
+  painter.drawText(rect().translated(0, isDown() ? 1 : 0), Qt::AlignCenter, text());
+}
+
+void BidFace::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    click();
+  else
+    QAbstractButton::keyPressEvent(event);
+}
+
+}  // namespace Parlino

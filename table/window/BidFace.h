@@ -1,0 +1,23 @@
+// One of the thirteen buttons of the bidding panel.
+#pragma once
+
+#include <QAbstractButton>
+
+#include "table/TableView.h"
+
+namespace Parlino {
+
+// A small square with a number. It answers to the mouse, and to Space and Enter while it has the
+// focus.
+class BidFace : public QAbstractButton {
+ public:
+  explicit BidFace(QWidget* parent);
+
+  void ShowModel(const BidButton& button);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+};
+
+}  // namespace Parlino

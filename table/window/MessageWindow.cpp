@@ -1,0 +1,125 @@
+#include "table/window/MessageWindow.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScreen>
+
+#include "table/window/AnswerCaption.h"
+#include "table/window/Design.h"
+#include "table/window/Pictures.h"
+#include "table/window/TableParts.h"
+
+namespace Parlino {
+namespace {
+
+QRect ToPixels(const DialogBox& box) {
+  return Parlino::ToPixels(box.Left, box.Top, box.Width, box.Height);
+}
+
+// A box whose top and left edges have one colour and whose bottom and right edges have the other.
+void DrawEdges(QPainter& painter, QRect box, const QColor& topLeft, const QColor& bottomRight) {
+  painter.setPen(topLeft);
+  painter.drawRect(box.adjusted(0, 0, -1, -1));
+  painter.setPen(bottomRight);
+  painter.drawLine(box.bottomLeft(), box.bottomRight());
+  painter.drawLine(box.topRight(), box.bottomRight());
+}
+
+LabelLook TextLook(int mostLines) {
+  return {.colour = Colours::Yellow,
+          .font = MessageFont(),
+          .align = Qt::AlignLeft,
+          .ground = Ground::None,
+          .mostLines = mostLines};
+}
+
+}  // namespace
+
+QFont MessageFont() {
+  constexpr double points = 9.75;
+  return TimesBold(points);
+}
+
+AnswerFace::AnswerFace(int answer, PendingEvents& pending, QWidget* parent)
+    : QWidget(parent),
+      caption_(Named(new AnswerCaption(answer, pending, this), MemberName("Label1", answer))) {
+  setObjectName(MemberName("Pic1", answer));
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void AnswerFace::ShowModel(const ButtonFace& face) {
+  setGeometry(ToPixels(face.Pic1));
+  isPressed_ = face.Pressed;
+  caption_->setText(QString::fromStdString(face.Label1));
+  caption_->setGeometry(isPressed_ ? rect().adjusted(2, 2, -1, -1) : rect().adjusted(1, 1, -1, -1));
+  setVisible(face.Visible);
+  update();
+}
+
+void AnswerFace::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), Colours::Green);
+  if (isPressed_)
+    DrawEdges(painter, rect(), Colours::EdgeGrey, Colours::EdgeLight);
+  else
+    DrawEdges(painter, rect(), Colours::EdgeLight, Colours::EdgeGrey);
+}
+
+MessageWindow::MessageWindow(PendingEvents& pending, QWidget* owner)
+    : QWidget(owner, Qt::Dialog | Qt::FramelessWindowHint),
+      title_(Named(new CaptionLabel(TextLook(1), this), "Label3")),
+      prompt_(Named(new CaptionLabel(TextLook(0), this), "Label2")),
+      picture_(Named(new QLabel(this), "Picture1")) {
+  setObjectName("MFormDeluxe");
+  setWindowModality(Qt::ApplicationModal);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setFocusPolicy(Qt::StrongFocus);
+  for (std::size_t answer = 0; answer < faces_.size(); ++answer)
+    faces_[answer] = new AnswerFace(static_cast<int>(answer), pending, this);
+}
+
+void MessageWindow::ShowModel(const MessageDialogView& dialog) {
+  if (!dialog.Visible) {
+    hide();
+    return;
+  }
+  int answer = 0;
+  for (AnswerFace* face : faces_) face->ShowModel(dialog.Faces[answer++]);
+  title_->ShowCaption(QString::fromStdString(dialog.Label3));
+  prompt_->ShowCaption(QString::fromStdString(dialog.Label2));
+  if (!isVisible()) Open(dialog);
+}
+
+void MessageWindow::Open(const MessageDialogView& dialog) {
+  const QPoint screen = window()->screen()->geometry().topLeft();
+  const QRect place = ToPixels({dialog.Left, dialog.Top, dialog.Width, dialog.Height});
+  setWindowTitle(title_->text().trimmed());
+  setAccessibleDescription(prompt_->text());
+  setFixedSize(place.size());
+  move(screen + place.topLeft());
+  title_->setGeometry(ToPixels(dialog.Label3Place));
+  prompt_->setGeometry(ToPixels(dialog.Label2Place));
+  picture_->setGeometry(ToPixels(dialog.Picture1));
+  picture_->setPixmap(MessagePicture(dialog.Picture, devicePixelRatioF()));
+  picture_->setAlignment(Qt::AlignCenter);
+  setFocus();
+  show();
+}
+
+void MessageWindow::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), Colours::Black);
+  DrawEdges(painter, rect().adjusted(1, 1, -1, -1), Colours::EdgeLight, Colours::EdgeGrey);
+}
+
+void MessageWindow::keyPressEvent(QKeyEvent* event) {
+  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (isEnter && !event->isAutoRepeat()) faces_[0]->Click();
+}
+
+void MessageWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+}
+
+}  // namespace Parlino

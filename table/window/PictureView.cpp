@@ -1,0 +1,77 @@
+#include "table/window/PictureView.h"
+
+#include <QCursor>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "table/window/Design.h"
+#include "table/window/Pictures.h"
+
+namespace Parlino {
+namespace {
+
+// Where the pointer points: the tip of the finger, the middle of the sign.
+QPoint HotSpot(Integer pointer) {
+  return pointer == PicturePointerPlay ? QPoint(11, 2) : QPoint(16, 16);
+}
+
+}  // namespace
+
+PictureView::PictureView(QWidget* parent) : QWidget(parent) {
+  setMouseTracking(true);
+}
+
+void PictureView::ShowModel(const PictureBox& box) {
+  if (picture_ != box.Picture) {
+    picture_ = box.Picture;
+    if (picture_ != 0) resize(PictureSize(picture_));
+    update();
+  }
+  ShowPointer(box.MousePointer);
+  const QString tip = PlainToolTip(QString::fromStdString(box.ToolTipText));
+  if (tip != toolTip()) setToolTip(tip);
+}
+
+void PictureView::ShowPointer(Integer picture) {
+  if (pointer_ == picture) return;
+  pointer_ = picture;
+  const QPoint spot = HotSpot(picture);
+  if (picture == 0)
+    unsetCursor();
+  else
+    setCursor(QCursor(CardPicture(picture, devicePixelRatioF()), spot.x(), spot.y()));
+}
+
+void PictureView::paintEvent(QPaintEvent*) {
+  if (picture_ == 0) return;
+  QPainter(this).drawPixmap(0, 0, CardPicture(picture_, devicePixelRatioF()));
+}
+
+void PictureView::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) pressed_ = true;
+}
+
+void PictureView::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton || !pressed_) return;
+  pressed_ = false;
+  const bool isOnSeenPart = parentWidget()->childAt(mapToParent(event->pos())) == this;
+  if (isOnSeenPart && onClick) onClick();
+}
+
+void PictureView::mouseMoveEvent(QMouseEvent*) {
+  if (onHover) onHover();
+}
+
+TrickBack::TrickBack(QWidget* parent) : QWidget(parent) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void TrickBack::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), Colours::Navy);
+  painter.setPen(Colours::EdgeGrey);
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  painter.drawPixmap(2, 2, SmallBack(devicePixelRatioF()));
+}
+
+}  // namespace Parlino

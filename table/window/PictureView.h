@@ -1,0 +1,46 @@
+// The picture boxes of the table: cards, the trumps picture and the small backs of the trick piles.
+#pragma once
+
+#include <functional>
+
+#include <QWidget>
+
+#include "table/TableView.h"
+
+namespace Parlino {
+
+// Shows a picture of the image list and takes its size. A click is the left button pressed and let
+// go over the part of this picture that is to be seen.
+class PictureView : public QWidget {
+ public:
+  explicit PictureView(QWidget* parent);
+
+  std::function<void()> onClick;
+  std::function<void()> onHover;
+
+  void ShowModel(const PictureBox& box);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+
+ private:
+  void ShowPointer(Integer picture);
+
+  Integer picture_ = 0;
+  Integer pointer_ = 0;
+  bool pressed_ = false;
+};
+
+// A small card back inside a single border: one trick taken.
+class TrickBack : public QWidget {
+ public:
+  explicit TrickBack(QWidget* parent);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace Parlino

@@ -1,0 +1,78 @@
+#include "table/window/PlayedList.h"
+
+#include <QAbstractListModel>
+#include <QApplication>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+
+#include "table/window/Design.h"
+
+namespace Parlino {
+
+// The lines as they stood when the list was last shown: a line is copied once, when it is new.
+class PlayedLines : public QAbstractListModel {
+ public:
+  using QAbstractListModel::QAbstractListModel;
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent) const override {
+    return parent.isValid() ? 0 : static_cast<int>(lines_.size());
+  }
+
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
+    return role == Qt::DisplayRole ? lines_.at(index.row()) : QVariant();
+  }
+
+  void Follow(const ListBox& list) {
+    if (list.Count() < lines_.size()) {
+      beginResetModel();
+      lines_.clear();
+      endResetModel();
+    }
+    if (list.Count() == lines_.size()) return;
+    beginInsertRows({}, static_cast<int>(lines_.size()), list.Count() - 1);
+    while (lines_.size() < list.Count())
+      lines_.append(ToText(list.Line(static_cast<int>(lines_.size()))));
+    endInsertRows();
+  }
+
+ private:
+  QStringList lines_;
+};
+
+namespace {
+
+// A name too long for the list is cut short, but the line between two tricks just runs out of it.
+class LineDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (option->text.startsWith('=')) option->textElideMode = Qt::ElideNone;
+  }
+};
+
+}  // namespace
+
+PlayedList::PlayedList(QWidget* parent) : QListView(parent), lines_(new PlayedLines(this)) {
+  setModel(lines_);
+  setItemDelegate(new LineDelegate(this));
+  setFont(WindowFont());
+  setUniformItemSizes(true);
+  setEditTriggers(NoEditTriggers);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setTabKeyNavigation(false);
+  QPalette colours = palette();
+  colours.setColor(QPalette::Base, Colours::Navy);
+  colours.setColor(QPalette::Text, Colours::White);
+  setPalette(colours);
+  verticalScrollBar()->setPalette(QApplication::palette());
+}
+
+void PlayedList::ShowModel(const ListBox& list) {
+  lines_->Follow(list);
+  scrollToBottom();
+}
+
+}  // namespace Parlino

@@ -1,0 +1,22 @@
+// The list of the cards played, which always follows its newest line.
+#pragma once
+
+#include <QListView>
+
+#include "table/TableView.h"
+
+namespace Parlino {
+
+class PlayedLines;
+
+class PlayedList : public QListView {
+ public:
+  explicit PlayedList(QWidget* parent);
+
+  void ShowModel(const ListBox& list);
+
+ private:
+  PlayedLines* lines_;
+};
+
+}  // namespace Parlino

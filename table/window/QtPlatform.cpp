@@ -1,0 +1,140 @@
+#include "table/window/QtPlatform.h"
+
+#include <chrono>
+
+#include <QApplication>
+#include <QDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QScreen>
+#include <QTime>
+
+#include "engine/Errors.h"
+#include "table/window/Design.h"
+#include "table/window/WrappedText.h"
+
+namespace Parlino {
+namespace {
+
+// An open menu would keep the mouse and the keys from the box in front of it.
+void CloseMenus() {
+  while (QWidget* menu = QApplication::activePopupWidget()) menu->close();
+}
+
+}  // namespace
+
+QtPlatform::QtPlatform(const std::filesystem::path& folder)
+    : files_(folder), sound_(folder), table_(pending_) {}
+
+void QtPlatform::ProcessEvents(std::uint32_t atMostMs) {
+  ShowModel();
+  if (pending_.IsEmpty()) WaitForToolkit(atMostMs);
+  RaisePendingEvents();
+}
+
+void QtPlatform::ShowModel() {
+  table_.ShowModel();
+  if (message_ == nullptr && MFormDeluxe.Visible)
+    message_ = std::make_unique<MessageWindow>(pending_, &table_);
+  if (message_ == nullptr) return;
+  if (MFormDeluxe.Visible && !message_->isVisible()) CloseMenus();
+  message_->ShowModel(MFormDeluxe);
+}
+
+void QtPlatform::WaitForToolkit(std::uint32_t atMostMs) {
+  pump_.Wait(atMostMs);
+  if (pump_.EndIsWanted()) throw ProgramEnded{};
+}
+
+// An event is taken off before it is raised: its handler may process events in turn, or never
+// return here.
+void QtPlatform::RaisePendingEvents() {
+  while (const auto event = pending_.TakeFirst()) event->door(event->number);
+}
+
+std::uint32_t QtPlatform::Ticks() {
+  using std::chrono::milliseconds;
+  const auto now = std::chrono::steady_clock::now().time_since_epoch();
+  return static_cast<std::uint32_t>(std::chrono::duration_cast<milliseconds>(now).count());
+}
+
+double QtPlatform::ClockSeconds() {
+  constexpr double msInSecond = 1000;
+  return QTime::currentTime().msecsSinceStartOfDay() / msInSecond;
+}
+
+void QtPlatform::StartSound(std::string_view fileName) {
+  sound_.Start(fileName);
+}
+
+// What was clicked before the box opened was meant for the table as it was; it is dropped.
+void QtPlatform::ShowAndWait(QDialog& box) {
+  CloseMenus();
+  box.setWindowModality(Qt::ApplicationModal);
+  box.show();
+  while (box.isVisible()) {
+    ShowModel();
+    WaitForToolkit(Forever);
+  }
+  pending_.Clear();
+}
+
+QWidget* QtPlatform::OwnerOfBoxes() {
+  return table_.isVisible() ? &table_ : nullptr;
+}
+
+std::string QtPlatform::InputBox(std::string_view prompt, std::string_view title,
+                                 std::string_view defaultAnswer) {
+  constexpr int widthOfTitle = 360;
+  QInputDialog box(OwnerOfBoxes());
+  box.setWindowTitle(ToText(title));
+  box.setLabelText(ToText(prompt));
+  box.setTextValue(ToText(defaultAnswer));
+  box.setMinimumWidth(widthOfTitle);
+  ShowAndWait(box);
+  return box.result() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
+}
+
+void QtPlatform::MsgBox(std::string_view text, std::string_view title, bool critical) {
+  QMessageBox box(critical ? QMessageBox::Critical : QMessageBox::NoIcon, ToText(title),
+                  ToText(text), QMessageBox::Ok, OwnerOfBoxes());
+  box.setTextFormat(Qt::PlainText);
+  ShowAndWait(box);
+}
+
+// A prompt that would push the buttons off the screen ends before that, cut short.
+int QtPlatform::PromptHeight(std::string_view prompt, int width) {
+  constexpr int pixelsAroundPrompt = 120;
+  const QFont font = MessageFont();
+  const int mostLines = LinesThatFit(ToPixels(Screen().height) - pixelsAroundPrompt, font);
+  const auto lines = WrapText(ToText(prompt), font, ToPixels(width), mostLines);
+  return TextHeight(lines.size(), font) * TwipsInPixel;
+}
+
+ScreenSize QtPlatform::Screen() {
+  const QSize size = table_.screen()->size();
+  return {size.width() * TwipsInPixel, size.height() * TwipsInPixel};
+}
+
+void QtPlatform::CloseWindow(WindowName window) {
+  if (window == WindowName::FrmMain) table_.hide();
+  if (window == WindowName::MFormDeluxe) message_.reset();
+}
+
+std::string QtPlatform::ReadFile(std::string_view fileName) {
+  return files_.Read(fileName);
+}
+
+void QtPlatform::ReplaceFile(std::string_view fileName, std::string_view content) {
+  files_.Replace(fileName, content);
+}
+
+void QtPlatform::SetFileAside(std::string_view fileName) {
+  files_.SetAside(fileName);
+}
+
+bool QtPlatform::FileExists(std::string_view fileName) {
+  return files_.Exists(fileName);
+}
+
+}  // namespace Parlino

@@ -1,0 +1,59 @@
+// The platform with a window. The toolkit's handlers never call the game: they append to the
+// pending events, which ProcessEvents raises when no frame of the toolkit is on the stack, so that
+// a handler may leave by an exception.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+
+#include "platform/FolderFiles.h"
+#include "platform/Platform.h"
+#include "table/window/EventPump.h"
+#include "table/window/MessageWindow.h"
+#include "table/window/PendingEvents.h"
+#include "table/window/Sound.h"
+#include "table/window/TableWindow.h"
+
+class QDialog;
+
+namespace Parlino {
+
+class QtPlatform : public Platform {
+ public:
+  // `folder` holds the data files and the sounds. The application object must be there.
+  explicit QtPlatform(const std::filesystem::path& folder);
+
+  void ProcessEvents(std::uint32_t atMostMs) override;
+  std::uint32_t Ticks() override;
+  double ClockSeconds() override;
+  void StartSound(std::string_view fileName) override;
+  std::string InputBox(std::string_view prompt, std::string_view title,
+                       std::string_view defaultAnswer) override;
+  void MsgBox(std::string_view text, std::string_view title, bool critical) override;
+  int PromptHeight(std::string_view prompt, int width) override;
+  ScreenSize Screen() override;
+  void CloseWindow(WindowName window) override;
+  std::string ReadFile(std::string_view fileName) override;
+  void ReplaceFile(std::string_view fileName, std::string_view content) override;
+  void SetFileAside(std::string_view fileName) override;
+  bool FileExists(std::string_view fileName) override;
+
+ protected:
+  // Lets the toolkit work while the game waits; all waiting goes through here.
+  virtual void WaitForToolkit(std::uint32_t atMostMs);
+
+ private:
+  void ShowModel();
+  void RaisePendingEvents();
+  void ShowAndWait(QDialog& box);
+  QWidget* OwnerOfBoxes();
+
+  FolderFiles files_;
+  Sound sound_;
+  EventPump pump_;
+  PendingEvents pending_;
+  TableWindow table_;
+  std::unique_ptr<MessageWindow> message_;  // made when the first message comes
+};
+
+}  // namespace Parlino

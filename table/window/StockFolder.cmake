@@ -1,0 +1,11 @@
+# Puts the sounds and the first data files into the program's folder. A data file that is already
+# there belongs to the player and stays as it is.
+#   cmake -DASSETS=... -DFOLDER=... -P StockFolder.cmake
+file(COPY ${ASSETS}/sounds/ DESTINATION ${FOLDER} FILES_MATCHING PATTERN "*.wav")
+file(GLOB dataFiles ${ASSETS}/data/*.dat)
+foreach(dataFile IN LISTS dataFiles)
+  cmake_path(GET dataFile FILENAME name)
+  if(NOT EXISTS ${FOLDER}/${name})
+    file(COPY ${dataFile} DESTINATION ${FOLDER})
+  endif()
+endforeach()

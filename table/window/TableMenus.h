@@ -1,0 +1,13 @@
+// The menus of the table window with their access and shortcut keys.
+#pragma once
+
+class QMenuBar;
+
+namespace Parlino {
+
+class PendingEvents;
+
+// Fills the menu bar; a command chosen is appended to the pending events.
+void BuildMenus(QMenuBar& bar, PendingEvents& pending);
+
+}  // namespace Parlino

@@ -1,0 +1,87 @@
+#include "table/window/TableWindow.h"
+
+#include <QCloseEvent>
+#include <QIcon>
+#include <QMenuBar>
+#include <QPainter>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "table/ErrorReport.h"
+#include "table/TableEvents.h"
+#include "table/window/Design.h"
+#include "table/window/PendingEvents.h"
+#include "table/window/Pictures.h"
+#include "table/window/TableMenus.h"
+#include "table/window/TableParts.h"
+
+namespace Parlino {
+
+TableWindow::TableWindow(PendingEvents& pending) : pending_(pending), table_(new QWidget(this)) {
+  setObjectName("FrmMain");
+  setWindowTitle(ToText(ApplicationTitle));
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  auto* menus = new QMenuBar(this);
+  BuildMenus(*menus, pending);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSizeConstraint(QLayout::SetNoConstraint);
+  layout->setMenuBar(menus);
+  layout->addWidget(table_, 0, Qt::AlignLeft | Qt::AlignTop);
+  BuildTable();
+  resize(ClientSize + QSize(0, menus->sizeHint().height()));
+}
+
+void TableWindow::BuildTable() {
+  table_->setObjectName("Table");
+  table_->setFixedSize(ClientSize);
+  // Without this the first control in the order of the Tab key would hold the focus from the start,
+  // and a stray Space would press it.
+  table_->setFocusPolicy(Qt::ClickFocus);
+  table_->setFocus();
+  const PartsBin bin{*table_, mirror_, pending_};
+  BuildTableTop(bin);
+  BuildTrickPiles(bin);
+  BuildTrumps(bin);
+  BuildCards(bin);
+  BuildWelcomePanel(bin);
+  BuildNames(bin);
+  BuildInfoLine(bin);
+  BuildWelcomeButton(bin);
+  BuildBiddingPanel(bin);
+  BuildPlayedList(bin);
+  BuildScoreFrame(bin);
+  BuildStatusBar(bin);
+}
+
+void TableWindow::ShowModel() {
+  mirror_.ShowChanges();
+  if (Table.FrmMain.Visible && !isVisible()) {
+    PutInMiddleOfScreen();
+    show();
+  }
+  if (wasPainted_ && windowIcon().isNull()) TakeIcon();
+}
+
+void TableWindow::PutInMiddleOfScreen() {
+  move(screen()->availableGeometry().center() - rect().center());
+}
+
+// The icon is drawn after the table has been seen for the first time: nobody waits for it.
+void TableWindow::TakeIcon() {
+  QIcon icon;
+  for (const int size : {16, 32, 48, 64, 128}) icon.addPixmap(IconPicture(size));
+  setWindowIcon(icon);
+}
+
+void TableWindow::paintEvent(QPaintEvent*) {
+  QPainter(this).fillRect(rect(), Colours::Navy);
+  wasPainted_ = true;
+}
+
+void TableWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  pending_.Append({[](int) { return CloseTableWindow(); }});
+}
+
+}  // namespace Parlino

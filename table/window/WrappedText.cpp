@@ -1,0 +1,62 @@
+#include "table/window/WrappedText.h"
+
+#include <algorithm>
+
+#include <QFontMetrics>
+#include <QPainter>
+#include <QTextLayout>
+#include <QTextOption>
+
+namespace Parlino {
+
+QStringList WrapText(const QString& text, const QFont& font, int width, int mostLines) {
+  const QFontMetrics metrics(font);
+  if (metrics.horizontalAdvance(text) <= width) return {text};
+  QTextLayout layout(text, font);
+  QTextOption option;
+  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  layout.setTextOption(option);
+  layout.beginLayout();
+  QStringList lines;
+  while (lines.size() + 1 < mostLines) {
+    QTextLine line = layout.createLine();
+    if (!line.isValid()) break;
+    line.setLineWidth(width);
+    lines.append(text.mid(line.textStart(), line.textLength()).trimmed());
+  }
+  const QTextLine last = layout.createLine();
+  if (last.isValid())
+    lines.append(metrics.elidedText(text.mid(last.textStart()), Qt::ElideRight, width));
+  layout.endLayout();
+  return lines;
+}
+
+int LineHeight(const QFont& font) {
+  return QFontMetrics(font).height();
+}
+
+int TextHeight(qsizetype lines, const QFont& font) {
+  return static_cast<int>(lines) * LineHeight(font) + Overhang;
+}
+
+int LinesThatFit(int height, const QFont& font) {
+  return std::max(1, (height - Overhang) / LineHeight(font));
+}
+
+// The toolkit's own underline of this typeface runs through the feet of large letters; this one
+// keeps clear of them.
+void DrawLine(QPainter& painter, QRect box, const QString& text, const QFont& font) {
+  constexpr double gapOfSize = 0.095;
+  constexpr double thicknessOfSize = 0.05;
+  QFont plain = font;
+  plain.setUnderline(false);
+  painter.setFont(plain);
+  painter.drawText(box, Qt::AlignLeft | Qt::TextDontClip, text);
+  if (!font.underline()) return;
+  const int size = font.pixelSize();
+  const int top = box.top() + QFontMetrics(plain).ascent() + std::max(2, qRound(size * gapOfSize));
+  painter.fillRect(box.left(), top, box.width(), std::max(1, qRound(size * thicknessOfSize)),
+                   painter.pen().color());
+}
+
+}  // namespace Parlino

@@ -1,0 +1,29 @@
+#include <chrono>
+#include <random>
+
+#include <QApplication>
+
+#include "engine/Generator.h"
+#include "game/Game.h"
+#include "table/window/QtPlatform.h"
+
+namespace {
+
+// The clock comes in too: a machine may have no better source of chance than its own generator.
+std::uint64_t FreshSeed() {
+  std::random_device chance;
+  const auto now = std::chrono::system_clock::now().time_since_epoch().count();
+  constexpr int halfOfWord = 32;
+  return (std::uint64_t{chance()} << halfOfWord | chance()) ^ static_cast<std::uint64_t>(now);
+}
+
+}  // namespace
+
+int main(int, char* arguments[]) {
+  int onlyTheProgramsName = 1;
+  const QApplication application(onlyTheProgramsName, arguments);
+  Parlino::QtPlatform platform(QApplication::applicationDirPath().toStdString());
+  Parlino::SetUpGame(platform);
+  Parlino::DealGenerator.Seed(FreshSeed());
+  return Parlino::RunGame();
+}

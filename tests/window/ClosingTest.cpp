@@ -1,0 +1,66 @@
+// The ways out of the program.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QEvent>
+
+#include "WindowGame.h"
+
+namespace Parlino {
+namespace {
+
+TEST(Closing, TheCloseBoxAsksAndCarryOnKeepsTheWindow) {
+  WindowGame game;
+  int asked = 0;
+  const int status = game.Run([&] {
+    QWidget& window = game.Find("FrmMain");
+    if (asked == 2 && QApplication::activeModalWidget() == nullptr) throw SeenEnough{};
+    if (QApplication::activeModalWidget() == nullptr) {
+      EXPECT_FALSE(window.close());
+      EXPECT_TRUE(window.isVisible());
+      ++asked;
+    } else {
+      EXPECT_EQ(game.Find("Label3").property("text").toString(), "   Really Exit?");
+      Click(game.FindMember("Label1", 1));
+    }
+  });
+  EXPECT_EQ(status, -1);
+  EXPECT_TRUE(game.Find("FrmMain").isVisible());
+}
+
+TEST(Closing, YesExitEndsTheProgram) {
+  WindowGame game;
+  const int status = game.Run([&] {
+    if (QApplication::activeModalWidget() == nullptr)
+      game.Find("FrmMain").close();
+    else
+      Click(game.FindMember("Label1", 0));
+  });
+  EXPECT_EQ(status, 0);
+  EXPECT_FALSE(game.Find("FrmMain").isVisible());
+}
+
+TEST(Closing, ExitWithoutAGameInProgressAsksNothing) {
+  WindowGame game;
+  EXPECT_EQ(game.Run([] {
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    PressKey(Qt::Key_X, Qt::ControlModifier);
+  }),
+            0);
+}
+
+// Also while a box is open, where no event of the table is raised.
+TEST(Closing, TheEndOfTheSessionEndsTheProgramAtOnce) {
+  for (const bool isBoxOpen : {false, true}) {
+    WindowGame game;
+    const int status = game.Run([&] {
+      if (isBoxOpen && OpenBox() == nullptr) return PressKey(Qt::Key_F1);
+      QEvent quit(QEvent::Quit);
+      QApplication::sendEvent(qApp, &quit);
+    });
+    EXPECT_EQ(status, 0);
+  }
+}
+
+}  // namespace
+}  // namespace Parlino

@@ -1,0 +1,72 @@
+// Names that are longer than anybody's, and text that looks like markup.
+#include <gtest/gtest.h>
+
+#include <QLabel>
+
+#include "WindowGame.h"
+#include "engine/GameState.h"
+#include "engine/StartUp.h"
+#include "table/window/Design.h"
+#include "table/window/WrappedText.h"
+
+namespace Parlino {
+namespace {
+
+TEST(LongNames, AreCutShortAtTheirNeighbours) {
+  WindowGame game;
+  game.Load();
+  for (const std::size_t length : {40U, 400U, 40000U}) {
+    PlayerName = std::string(length, 'W');
+    for (std::string& name : SeatNames) name = PlayerName;
+    ShowNames();
+    Show(Table.LblTrumps);
+    SetCaption(Table.LblInfo, {PlayerName, " please play a card."});
+    game.Turn();
+    constexpr int ends[] = {248, 256, 512, 744};
+    for (int seat = Player; seat <= East; ++seat) {
+      const QWidget& label = game.FindMember("LblName", seat);
+      EXPECT_LT(label.geometry().right(), ends[seat]) << seat;
+      EXPECT_EQ(label.toolTip().size(), static_cast<qsizetype>(Table.LblName[seat].Caption.size()));
+    }
+    EXPECT_EQ(game.Find("LblInfo").size(), QSize(457, 33));
+  }
+}
+
+TEST(LongNames, AreShownAndSpokenAsTheyStand) {
+  WindowGame game;
+  game.Load();
+  SetCaption(Table.LblName[Player], {"<b>Bo</b> & Co"});
+  game.Turn();
+  const auto& label = dynamic_cast<QLabel&>(game.FindMember("LblName", Player));
+  EXPECT_EQ(label.textFormat(), Qt::PlainText);
+  EXPECT_EQ(label.accessibleName(), "Player: <b>Bo</b> & Co");
+  EXPECT_EQ(PlainToolTip(label.text()), "<span>&lt;b&gt;Bo&lt;/b&gt; &amp; Co</span>");
+}
+
+TEST(WrappedText, EveryLineFitsAndNoWordIsLost) {
+  const QFont font = WindowFont();
+  const QFontMetrics metrics(font);
+  const QString text = "Player sorry, you must follow suit. Please try again";
+  for (const int width : {60, 120, 355, 1000}) {
+    const QStringList lines = WrapText(text, font, width, 100);
+    for (const QString& line : lines) EXPECT_LE(metrics.horizontalAdvance(line), width) << width;
+    EXPECT_EQ(lines.join(" "), text) << width;
+  }
+}
+
+TEST(WrappedText, TheLastLineTellsThatThereIsMore) {
+  const QFont font = WindowFont();
+  constexpr int width = 80;
+  const QStringList lines = WrapText("one two three four five six seven", font, width, 2);
+  EXPECT_EQ(lines.size(), 2);
+  EXPECT_TRUE(lines.last().endsWith(QChar(0x2026)));
+  EXPECT_LE(QFontMetrics(font).horizontalAdvance(lines.last()), width);
+}
+
+TEST(WrappedText, AnythingHasAtLeastOneLine) {
+  for (const char* text : {"", " ", "x"})
+    EXPECT_EQ(WrapText(text, WindowFont(), 100, 3).size(), 1) << text;
+}
+
+}  // namespace
+}  // namespace Parlino

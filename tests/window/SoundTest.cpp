@@ -1,0 +1,38 @@
+// Sounds never stop the game, whatever is missing.
+#include <filesystem>
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+#include "table/window/Sound.h"
+
+namespace Parlino {
+namespace {
+
+std::ptrdiff_t ThreadsOfThisProgram() {
+  return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
+}
+
+TEST(Sounds, StartWithoutComplaint) {
+  const QTemporaryDir empty;
+  for (const std::string& folder : {std::string(PARLINO_SOUND_FOLDER), empty.path().toStdString(),
+                                    std::string("/no/such/folder")}) {
+    Sound sound(folder);
+    for (int time = 1; time <= 3; ++time)
+      for (const char* file : {"Card.wav", "Shuffle.wav", "ringout.wav", "missing.wav"})
+        EXPECT_NO_THROW(sound.Start(file)) << folder << " " << file;
+  }
+}
+
+TEST(Sounds, LeaveNoThreadBehind) {
+  const std::ptrdiff_t before = ThreadsOfThisProgram();
+  {
+    Sound sound(PARLINO_SOUND_FOLDER);
+    sound.Start("Shuffle.wav");
+    sound.Start("Card.wav");
+  }
+  EXPECT_EQ(ThreadsOfThisProgram(), before);
+}
+
+}  // namespace
+}  // namespace Parlino

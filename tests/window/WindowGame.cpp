@@ -1,0 +1,85 @@
+#include "WindowGame.h"
+
+#include <stdexcept>
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QTest>
+
+#include "engine/GameState.h"
+#include "engine/Generator.h"
+#include "persistence/DataFiles.h"
+#include "table/TableEvents.h"
+
+namespace Parlino {
+namespace {
+
+constexpr int PlayersRowTop = 440;
+constexpr QPoint SpotOfCard(8, 48);  // seen also where the next card lies over this one
+
+}  // namespace
+
+void QuickPlatform::WaitForToolkit(std::uint32_t atMostMs) {
+  person();
+  if (atMostMs != Forever) ticks_ += atMostMs;
+  QtPlatform::WaitForToolkit(0);
+}
+
+WindowGame::WindowGame(std::uint64_t seed) : platform(folder.path().toStdString()) {
+  SetUpGame(platform);
+  DealGenerator.Seed(seed);
+  for (const FirstRecord& first : FirstRecords) platform.ReplaceFile(first.file, first.record);
+}
+
+void WindowGame::Load() {
+  Events.Form_Load();
+  Turn();
+  QApplication::setActiveWindow(&Find("FrmMain"));
+}
+
+int WindowGame::Run(std::function<void()> person) {
+  platform.person = std::move(person);
+  try {
+    return RunGame();
+  } catch (const SeenEnough&) {
+    return -1;
+  }
+}
+
+QWidget& WindowGame::Find(const QString& name) {
+  for (QWidget* widget : QApplication::allWidgets())
+    if (widget->objectName() == name) return *widget;
+  throw std::out_of_range("no widget is called " + name.toStdString());
+}
+
+QWidget& WindowGame::FindMember(const char* array, int index) {
+  return Find(QString("%1(%2)").arg(array).arg(index));
+}
+
+void Click(QWidget& widget) {
+  QTest::mouseClick(&widget, Qt::LeftButton);
+}
+
+void PressKey(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  QWidget* window = QApplication::activeModalWidget();
+  if (window == nullptr) window = &WindowGame::Find("FrmMain");
+  QApplication::setActiveWindow(window);
+  QWidget* focus = window->focusWidget();
+  QTest::keyClick(focus != nullptr ? focus : window, key, modifiers);
+}
+
+QDialog* OpenBox() {
+  return qobject_cast<QDialog*>(QApplication::activeModalWidget());
+}
+
+void CardClicker::ClickNext() {
+  for (int tried = 0; tried < CardsInPack; ++tried) {
+    next_ = next_ % CardsInPack + 1;
+    QWidget& card = WindowGame::FindMember("Cds", next_);
+    if (!card.isVisible() || card.y() != PlayersRowTop) continue;
+    QTest::mouseClick(&card, Qt::LeftButton, {}, SpotOfCard);
+    return;
+  }
+}
+
+}  // namespace Parlino

@@ -1,0 +1,71 @@
+// A game in a real window for the tests. Time is virtual: a pause is over as soon as the toolkit
+// has done what it had to do.
+#pragma once
+
+#include <functional>
+
+#include <QDialog>
+#include <QTemporaryDir>
+#include <QWidget>
+
+#include "game/Game.h"
+#include "table/window/QtPlatform.h"
+
+namespace Parlino {
+
+// Thrown by a script that has seen enough.
+struct SeenEnough {};
+
+class QuickPlatform : public QtPlatform {
+ public:
+  using QtPlatform::QtPlatform;
+
+  // The person at the window: asked before every wait, with the table shown as it stands.
+  std::function<void()> person = [] {};
+
+  std::uint32_t Ticks() override { return ticks_; }
+
+ protected:
+  void WaitForToolkit(std::uint32_t atMostMs) override;
+
+ private:
+  std::uint32_t ticks_ = 0;
+};
+
+class WindowGame {
+ public:
+  explicit WindowGame(std::uint64_t seed = 1);
+
+  // Loads the table window and shows it.
+  void Load();
+  // Shows what has changed and raises what has been clicked.
+  void Turn() { platform.ProcessEvents(0); }
+  // Plays with this person until the program ends, and returns its exit status; -1 when the person
+  // has seen enough.
+  int Run(std::function<void()> person);
+
+  // The widget of a control by its name; a test without it fails at once.
+  static QWidget& Find(const QString& name);
+  static QWidget& FindMember(const char* array, int index);
+
+  QTemporaryDir folder;
+  QuickPlatform platform;
+};
+
+void Click(QWidget& widget);
+void PressKey(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
+// The plain box or text-input box that is open, or none.
+QDialog* OpenBox();
+
+// Clicks on the cards of the Player's hand, one after the other, as a person who has to find out
+// which of them may be played.
+class CardClicker {
+ public:
+  void ClickNext();
+
+ private:
+  int next_ = 0;
+};
+
+}  // namespace Parlino
