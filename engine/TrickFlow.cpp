@@ -52,12 +52,19 @@ void CountTrick() {
   SetCaption(Table.LblWEMade, {TheirTricks()});
 }
 
+// A sum that would leave its range is reported and the value stays as it is; the hand is settled
+// all the same, for a player who has come that far wants to go on. The report is the round
+// driver's, which stands for everything that happens in a hand.
+void AddTo(Integer& total, int amount) {
+  ReportErrors("DealNewRound", [&total, amount] { total = ToInteger(total + amount); });
+}
+
 void ScoreHand() {
   OurHandScore = HandScore(OurTricks(), OurBid);
   TheirHandScore = HandScore(TheirTricks(), TheirBid);
-  OurPoints = ToInteger(OurPoints + OurHandScore);
+  AddTo(OurPoints, OurHandScore);
   SetCaption(Table.StatusBar1[2], {"Your team points:- ", OurPoints});
-  TheirPoints = ToInteger(TheirPoints + TheirHandScore);
+  AddTo(TheirPoints, TheirHandScore);
   SetCaption(Table.StatusBar1[3], {"Their team points:- ", TheirPoints});
 }
 
@@ -83,8 +90,8 @@ void OfferNextHand() {
 }
 
 void CountGame(bool won) {
-  if (won) GamesWon = ToInteger(GamesWon + 1);
-  GamesPlayed = ToInteger(GamesPlayed + 1);
+  if (won) AddTo(GamesWon, 1);
+  AddTo(GamesPlayed, 1);
 }
 
 void ShowGameOver(bool won) {

@@ -138,25 +138,31 @@ TEST(WholeGame, EqualTotalsGoOnHoweverHigh) {
   EXPECT_EQ(secondPlayer.HandsScored(), 1);
 }
 
-TEST(WholeGame, ATotalThatWouldLeaveItsRangeIsReportedAndKept) {
-  for (const bool ours : {true, false}) {
+struct RangeCase {
+  const char* file;
+  const char* content;
+  int bid;  // South's
+  const Integer& value;
+};
+
+// Neither a total nor a count ever wraps: it is reported and kept, and the hand is settled.
+TEST(WholeGame, WhatWouldLeaveItsRangeIsReportedAndKept) {
+  for (const RangeCase& example : {RangeCase{"SaveGame.dat", "-32760,5,#TRUE#\r\n", 13, OurPoints},
+                                   RangeCase{"SaveGame.dat", "32767,5,#TRUE#\r\n", 1, OurPoints},
+                                   RangeCase{"SaveGame.dat", "5,-32768,#TRUE#\r\n", 1, TheirPoints},
+                                   RangeCase{"Points.dat", "0,32767\r\n", 1, GamesPlayed}}) {
     HeadlessGame game(17);
-    game.platform.files["SaveGame.dat"] = ours ? "-32760,5,#TRUE#\r\n" : "5,32767,#TRUE#\r\n";
-    int handsOver = 0;
-    game.platform.onMsgBox = [&](std::string_view text) {
-      handsOver += text == " the hand is over check  the scores";
-    };
-    PlainPlayer player(1, ours ? 13 : 1);
-    game.platform.script = [&](std::uint32_t atMostMs) {
-      if (handsOver > 0 && !MFormDeluxe.Visible)
-        ChooseMenu(MenuItem::MnuExit);
-      else
-        player.OnEvents(atMostMs);
-    };
-    EXPECT_EQ(RunGame(), 0);
-    if (handsOver == 0) continue;  // their side failed its bid and stayed in range
-    EXPECT_TRUE(Recorded(game.platform, "Unexpected error in procedure: DealNewRound"));
-    EXPECT_EQ(ours ? OurPoints : TheirPoints, ours ? -32760 : 32767);
+    game.platform.files["SaveGame.dat"] = "2000,5,#TRUE#\r\n";
+    game.platform.files[example.file] = example.content;
+    PlainPlayer player(1, example.bid);
+    Integer before = 0;
+    game.platform.onMsgBox = [&](std::string_view) { before = example.value; };
+    player.onDialog = [&] { EXPECT_EQ(example.value, before) << example.content; };
+    PlayLookingOn(game, player);
+    EXPECT_TRUE(Recorded(game.platform, "Unexpected error in procedure: DealNewRound\nError #34"))
+        << example.content;
+    EXPECT_TRUE(before > 32000 || before < -32000) << example.content;
+    EXPECT_EQ(player.HandsScored(), 1) << example.content;
   }
 }
 

@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "table/window/Design.h"
+#include "table/window/Edges.h"
 
 namespace Parlino {
 
@@ -28,9 +29,9 @@ void BidFace::paintEvent(QPaintEvent*) {
   else if (underMouse())
     face = face.lighter(125);
   painter.fillRect(rect(), face);
+  DrawEdges(painter, rect(), Colours::Black);
+  if (hasFocus()) DrawEdges(painter, rect().adjusted(2, 2, -2, -2), Colours::Black);
   painter.setPen(Colours::Black);
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
-  if (hasFocus()) painter.drawRect(rect().adjusted(2, 2, -3, -3));
   painter.drawText(rect().translated(0, isDown() ? 1 : 0), Qt::AlignCenter, text());
 }
 

@@ -32,7 +32,7 @@ void CaptionLabel::ShowCaption(const QString& caption) {
 void CaptionLabel::BreakLines() {
   const int mostLines = look_.mostLines > 0 ? look_.mostLines : LinesThatFit(height(), look_.font);
   lines_ = WrapText(text(), look_.font, WidthForText(), mostLines);
-  const bool isShortened = lines_.last().endsWith(QChar(0x2026)) && !text().endsWith(lines_.last());
+  const bool isShortened = lines_.last().contains(Ellipsis) && !text().contains(lines_.last());
   setToolTip(isShortened ? PlainToolTip(text()) : QString());
   if (mostWidth_ > 0)
     resize(QFontMetrics(look_.font).horizontalAdvance(lines_.first()) + Overhang,

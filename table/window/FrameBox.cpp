@@ -2,9 +2,8 @@
 
 #include <QFontMetrics>
 #include <QPainter>
-#include <QStyleOption>
-#include <qdrawutil.h>
 
+#include "table/window/Edges.h"
 #include "table/window/WrappedText.h"
 
 namespace Parlino {
@@ -26,10 +25,11 @@ void FrameBox::paintEvent(QPaintEvent*) {
   const QFontMetrics metrics(look_.font);
   // A frame that ends at the edge of the window still shows its line there.
   const QRect seen = rect() & parentWidget()->rect().translated(-pos());
-  QPalette etched;
-  etched.setColor(QPalette::Dark, look_.ground.darker(220));
-  etched.setColor(QPalette::Light, look_.ground.lighter(190));
-  qDrawShadeRect(&painter, seen.adjusted(0, metrics.height() / 2, 0, 0), etched, true);
+  const QColor dark = look_.ground.darker(220);
+  const QColor light = look_.ground.lighter(190);
+  const QRect line = seen.adjusted(0, metrics.height() / 2, 0, 0);
+  DrawEdges(painter, line, dark, light);
+  DrawEdges(painter, line.adjusted(1, 1, -1, -1), light, dark);
 
   const int width = metrics.horizontalAdvance(title());
   const int left = std::min(CaptionIndent, (seen.width() - width) / 2);

@@ -7,6 +7,7 @@
 
 #include "table/window/AnswerCaption.h"
 #include "table/window/Design.h"
+#include "table/window/Edges.h"
 #include "table/window/Pictures.h"
 #include "table/window/TableParts.h"
 
@@ -15,15 +16,6 @@ namespace {
 
 QRect ToPixels(const DialogBox& box) {
   return Parlino::ToPixels(box.Left, box.Top, box.Width, box.Height);
-}
-
-// A box whose top and left edges have one colour and whose bottom and right edges have the other.
-void DrawEdges(QPainter& painter, QRect box, const QColor& topLeft, const QColor& bottomRight) {
-  painter.setPen(topLeft);
-  painter.drawRect(box.adjusted(0, 0, -1, -1));
-  painter.setPen(bottomRight);
-  painter.drawLine(box.bottomLeft(), box.bottomRight());
-  painter.drawLine(box.topRight(), box.bottomRight());
 }
 
 LabelLook TextLook(int mostLines) {

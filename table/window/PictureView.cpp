@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include "table/window/Design.h"
+#include "table/window/Edges.h"
 #include "table/window/Pictures.h"
 
 namespace Parlino {
@@ -69,8 +70,7 @@ TrickBack::TrickBack(QWidget* parent) : QWidget(parent) {
 void TrickBack::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), Colours::Navy);
-  painter.setPen(Colours::EdgeGrey);
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  DrawEdges(painter, rect(), Colours::EdgeGrey);
   painter.drawPixmap(2, 2, SmallBack(devicePixelRatioF()));
 }
 

@@ -2,10 +2,13 @@
 
 #include <QAbstractListModel>
 #include <QApplication>
+#include <QEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 
 #include "table/window/Design.h"
+#include "table/window/Edges.h"
 
 namespace Parlino {
 
@@ -59,6 +62,7 @@ PlayedList::PlayedList(QWidget* parent) : QListView(parent), lines_(new PlayedLi
   setModel(lines_);
   setItemDelegate(new LineDelegate(this));
   setFont(WindowFont());
+  setFrameStyle(static_cast<int>(Box) | static_cast<int>(Plain));
   setUniformItemSizes(true);
   setEditTriggers(NoEditTriggers);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -68,6 +72,14 @@ PlayedList::PlayedList(QWidget* parent) : QListView(parent), lines_(new PlayedLi
   colours.setColor(QPalette::Text, Colours::White);
   setPalette(colours);
   verticalScrollBar()->setPalette(QApplication::palette());
+}
+
+// The frame; the lines are painted by the viewport inside it.
+bool PlayedList::event(QEvent* event) {
+  if (event->type() != QEvent::Paint) return QListView::event(event);
+  QPainter painter(this);
+  DrawEdges(painter, rect(), Colours::EdgeGrey);
+  return true;
 }
 
 void PlayedList::ShowModel(const ListBox& list) {

@@ -15,6 +15,9 @@ class PlayedList : public QListView {
 
   void ShowModel(const ListBox& list);
 
+ protected:
+  bool event(QEvent* event) override;
+
  private:
   PlayedLines* lines_;
 };

@@ -32,12 +32,17 @@ void BuildWelcomeText(const PartsBin& bin, const char* name, const Label& model,
   bin.mirror.Link(model, label, [label, &model] { label->ShowModel(model); });
 }
 
-// How far a name may run before it would meet the next thing beside it, in pixels. The greetings
-// have other neighbours than the names: the welcome button is there, North's hand is not.
+// How far a name may run before it would meet the next thing beside it, in pixels. Before the first
+// deal there is more room for West's greeting, for North's cards are not there, and less for the
+// Player's name while the welcome button is.
 int RoomForName(int seat) {
-  constexpr int roomsForNames[SeatsAtTable] = {166, 131, 354, 175};
-  constexpr int roomsForGreetings[SeatsAtTable] = {124, 436, 354, 175};
-  return Table.LblTrumps.Visible ? roomsForNames[seat] : roomsForGreetings[seat];
+  constexpr int rooms[SeatsAtTable] = {166, 131, 354, 175};
+  constexpr int roomBesideButton = 124;
+  constexpr int roomWithoutCards = 436;
+  const bool hasDealt = Table.Cds[CardsInPack].Visible || Table.LblTrumps.Visible;
+  if (seat == Player && Table.CmdDontShow.Visible) return roomBesideButton;
+  if (seat == West && !hasDealt) return roomWithoutCards;
+  return rooms[seat];
 }
 
 void ShowName(CaptionLabel* label, int seat) {

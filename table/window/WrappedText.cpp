@@ -12,6 +12,7 @@ namespace Parlino {
 QStringList WrapText(const QString& text, const QFont& font, int width, int mostLines) {
   const QFontMetrics metrics(font);
   if (metrics.horizontalAdvance(text) <= width) return {text};
+  if (mostLines == 1) return {metrics.elidedText(text, Qt::ElideMiddle, width)};
   QTextLayout layout(text, font);
   QTextOption option;
   option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);

@@ -10,8 +10,11 @@ class QPainter;
 
 namespace Parlino {
 
+inline constexpr QChar Ellipsis(0x2026);
+
 // Breaks the text into lines of at most `width` pixels: between words, inside a word only where it
-// is too wide for a line. What is left for the last of `mostLines` is cut short with an ellipsis.
+// is too wide for a line. What is left for the last of `mostLines` is cut short with an ellipsis; a
+// single line in its middle, for what a name is followed by matters more than its end.
 QStringList WrapText(const QString& text, const QFont& font, int width, int mostLines);
 
 // The distance from one line to the next, in pixels.

@@ -59,8 +59,13 @@ TEST(WrappedText, TheLastLineTellsThatThereIsMore) {
   constexpr int width = 80;
   const QStringList lines = WrapText("one two three four five six seven", font, width, 2);
   EXPECT_EQ(lines.size(), 2);
-  EXPECT_TRUE(lines.last().endsWith(QChar(0x2026)));
+  EXPECT_TRUE(lines.last().endsWith(Ellipsis));
   EXPECT_LE(QFontMetrics(font).horizontalAdvance(lines.last()), width);
+}
+
+TEST(WrappedText, ASingleLineKeepsWhatFollowsTheName) {
+  const QString name(100, 'W');
+  EXPECT_TRUE(WrapText(name + " bids 10", WindowFont(), 150, 1).first().endsWith("bids 10"));
 }
 
 TEST(WrappedText, AnythingHasAtLeastOneLine) {

@@ -53,7 +53,7 @@ class Session {
       ChooseMenu(hands_ < options_.hands ? MenuItem::MnuNew : MenuItem::MnuExit);
   }
 
-  // A total that would leave its range stops the scoring; the hand still counts as played.
+  // A hand that ends in an error still counts as played.
   void OnMsgBox(std::string_view text) {
     if (text.starts_with("Unexpected error")) ++errors_;
     if (text.starts_with(" the hand is over")) EndHand(false);
