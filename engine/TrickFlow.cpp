@@ -73,7 +73,7 @@ bool GameIsOver() {
   return (OurPoints >= TargetPoints || TheirPoints >= TargetPoints) && OurPoints != TheirPoints;
 }
 
-void OfferNextHand() {
+void ShowScores() {
   constexpr std::string_view ending =
       " Total score not reached, or scores are the same. Click Next Hand or Save and Exit";
   ShowMessage(
@@ -82,11 +82,18 @@ void OfferNextHand() {
                 SeatNames[West], " and ", SeatNames[East], " score this hand is ", TheirHandScore,
                 " their total score todate is  ", TheirPoints, " ", ending}),
       "Next Hand", "Save and Exit", "", 3, "Scores");
-  if (MessageChoice == 0) return;
-  GameInProgress = True;
-  SaveGame();
-  SavePoints();
-  UnloadAllForms();
+}
+
+// A score that cannot be saved is not thrown away: the player is asked again.
+void OfferNextHand() {
+  while (true) {
+    ShowScores();
+    if (MessageChoice == 0) return;
+    GameInProgress = True;
+    const bool gameSaved = SaveGame();
+    const bool pointsSaved = SavePoints();
+    if (gameSaved && pointsSaved) UnloadAllForms();
+  }
 }
 
 void CountGame(bool won) {

@@ -54,21 +54,33 @@ void TakeRecord(std::string_view file, std::string_view record) {
   return TakeWelcome(record);
 }
 
+// What the report adds about a malformed file that could not even be renamed.
+std::string SetAside(std::string_view file) {
+  try {
+    ThePlatform().SetFileAside(file);
+    return {};
+  } catch (const GameError& error) {
+    return JoinText({". ", error.what()});
+  }
+}
+
 void ReadRecord(std::string_view file) {
   const std::string record = ThePlatform().ReadFile(file);
   try {
     TakeRecord(file, record);
   } catch (const GameError& error) {
-    ThePlatform().SetFileAside(file);
-    throw GameError(error.Number(), JoinText({file, " cannot be understood: ", error.what()}));
+    throw GameError(error.Number(),
+                    JoinText({file, " cannot be understood: ", error.what(), SetAside(file)}));
   }
 }
 
-void WriteRecord(std::string_view file, const RecordWriter& record) {
+bool WriteRecord(std::string_view file, const RecordWriter& record) {
   try {
     ThePlatform().ReplaceFile(file, record.Line());
+    return true;
   } catch (const GameError& error) {
     ThePlatform().MsgBox(error.what(), ApplicationTitle, false);
+    return false;
   }
 }
 
@@ -92,24 +104,25 @@ void UseFirstRecord(std::string_view file) {
     if (first.file == file) TakeRecord(file, first.record);
 }
 
-void SaveGame() {
-  WriteRecord(SaveGameFile, RecordWriter().Add(OurPoints).Add(TheirPoints).AddFlag(GameInProgress));
+bool SaveGame() {
+  return WriteRecord(SaveGameFile,
+                     RecordWriter().Add(OurPoints).Add(TheirPoints).AddFlag(GameInProgress));
 }
 
-void SavePoints() {
-  WriteRecord(PointsFile, RecordWriter().Add(GamesWon).Add(GamesPlayed));
+bool SavePoints() {
+  return WriteRecord(PointsFile, RecordWriter().Add(GamesWon).Add(GamesPlayed));
 }
 
-void SaveNames() {
-  WriteRecord(NamesFile, RecordWriter()
-                             .Add(PlayerName)
-                             .Add(SeatNames[West])
-                             .Add(SeatNames[North])
-                             .Add(SeatNames[East]));
+bool SaveNames() {
+  return WriteRecord(NamesFile, RecordWriter()
+                                    .Add(PlayerName)
+                                    .Add(SeatNames[West])
+                                    .Add(SeatNames[North])
+                                    .Add(SeatNames[East]));
 }
 
-void SaveWelcome() {
-  WriteRecord(WelcomeFile, RecordWriter().AddFlag(HideWelcome));
+bool SaveWelcome() {
+  return WriteRecord(WelcomeFile, RecordWriter().AddFlag(HideWelcome));
 }
 
 }  // namespace Parlino

@@ -34,11 +34,11 @@ void ReadWelcome();   // HideWelcome
 // Puts what the file would hold in a new game into the game state.
 void UseFirstRecord(std::string_view file);
 
-// Each replaces its file by the values of the game state. A file that cannot be written is reported
-// to the player in a plain message box; the values stay as they are.
-void SaveGame();
-void SavePoints();
-void SaveNames();
-void SaveWelcome();
+// Each replaces its file by the values of the game state and returns whether it could. A file that
+// cannot be written is reported to the player in a plain message box; the values stay as they are.
+bool SaveGame();
+bool SavePoints();
+bool SaveNames();
+bool SaveWelcome();
 
 }  // namespace Parlino

@@ -98,7 +98,8 @@ void FolderFiles::SetAside(std::string_view fileName) const {
   const fs::path path = folder_ / fileName;
   const std::string aside = path.string() + ".bad";
   std::string name = aside;
-  for (int number = 2; fs::exists(name); ++number) name = aside + std::to_string(number);
+  std::error_code ignored;  // a name that cannot be looked at fails at the renaming
+  for (int number = 2; fs::exists(name, ignored); ++number) name = aside + std::to_string(number);
   if (::rename(path.c_str(), name.c_str()) != 0) RaiseSystemError(fileName, "set aside", errno);
 }
 

@@ -41,7 +41,7 @@ class HeadlessPlatform : public Platform {
 
   std::uint32_t ticks = 0;
   std::uint32_t clockAtStart = 43'200'000;  // milliseconds since midnight
-  int depth = 0;                // of ProcessEvents inside ProcessEvents
+  int depth = 0;                            // of ProcessEvents inside ProcessEvents
   int deepest = 0;
 
   void ProcessEvents(std::uint32_t atMostMs) override;

@@ -68,7 +68,11 @@ class Platform {
 // The platform in use. Set once, before anything else of the game runs.
 inline Platform* PlatformInUse = nullptr;
 
-inline void UsePlatform(Platform& platform) { PlatformInUse = &platform; }
-inline Platform& ThePlatform() { return *PlatformInUse; }
+inline void UsePlatform(Platform& platform) {
+  PlatformInUse = &platform;
+}
+inline Platform& ThePlatform() {
+  return *PlatformInUse;
+}
 
 }  // namespace Parlino

@@ -138,6 +138,24 @@ TEST(WholeGame, EqualTotalsGoOnHoweverHigh) {
   EXPECT_EQ(secondPlayer.HandsScored(), 1);
 }
 
+TEST(WholeGame, AScoreThatCannotBeSavedIsNotThrownAway) {
+  HeadlessGame game(18);
+  int dialogs = 0;
+  Integer points = 0;
+  PlainPlayer player(1);
+  player.onDialog = [&] {
+    if (dialogs == 1) {
+      EXPECT_EQ(OurPoints, points);
+    }
+    points = OurPoints;
+    game.platform.filesCanBeWritten = ++dialogs > 1;
+  };
+  EXPECT_EQ(PlayLookingOn(game, player), 0);
+  EXPECT_EQ(dialogs, 2) << "asked again after the failure, then saved and left";
+  EXPECT_TRUE(Recorded(game.platform, "SaveGame.dat cannot be written"));
+  EXPECT_TRUE(game.platform.files["SaveGame.dat"].starts_with(std::to_string(points) + ","));
+}
+
 struct RangeCase {
   const char* file;
   const char* content;

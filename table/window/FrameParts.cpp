@@ -83,8 +83,9 @@ QPoint BidFacePlace(int number) {
   constexpr int firstTop = 360;
   constexpr int step = 450;
   if (number == TricksInHand) return ToPixels(TablePoint{1260, 1260});
-  return {ToPixels(firstLeft + step * ((number - 1) % perRow)),
-          ToPixels(firstTop + step * ((number - 1) / perRow))};
+  const int column = (number - 1) % perRow;
+  const int row = (number - 1) / perRow;
+  return {ToPixels(firstLeft + step * column), ToPixels(firstTop + step * row)};
 }
 
 }  // namespace

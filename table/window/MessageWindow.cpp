@@ -80,10 +80,13 @@ void MessageWindow::ShowModel(const MessageDialogView& dialog) {
   for (AnswerFace* face : faces_) face->ShowModel(dialog.Faces[answer++]);
   title_->ShowCaption(QString::fromStdString(dialog.Label3));
   prompt_->ShowCaption(QString::fromStdString(dialog.Label2));
-  if (!isVisible()) Open(dialog);
+  Place(dialog);
+  if (isVisible()) return;
+  setFocus();
+  show();
 }
 
-void MessageWindow::Open(const MessageDialogView& dialog) {
+void MessageWindow::Place(const MessageDialogView& dialog) {
   const QPoint screen = window()->screen()->geometry().topLeft();
   const QRect place = ToPixels({dialog.Left, dialog.Top, dialog.Width, dialog.Height});
   setWindowTitle(title_->text().trimmed());
@@ -95,8 +98,6 @@ void MessageWindow::Open(const MessageDialogView& dialog) {
   picture_->setGeometry(ToPixels(dialog.Picture1));
   picture_->setPixmap(MessagePicture(dialog.Picture, devicePixelRatioF()));
   picture_->setAlignment(Qt::AlignCenter);
-  setFocus();
-  show();
 }
 
 void MessageWindow::paintEvent(QPaintEvent*) {

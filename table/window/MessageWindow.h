@@ -42,7 +42,7 @@ class MessageWindow : public QWidget {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  void Open(const MessageDialogView& dialog);
+  void Place(const MessageDialogView& dialog);
 
   CaptionLabel* title_;
   CaptionLabel* prompt_;

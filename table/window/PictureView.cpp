@@ -1,6 +1,7 @@
 #include "table/window/PictureView.h"
 
 #include <QCursor>
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -11,9 +12,11 @@
 namespace Parlino {
 namespace {
 
-// Where the pointer points: the tip of the finger, the middle of the sign.
-QPoint HotSpot(Integer pointer) {
-  return pointer == PicturePointerPlay ? QPoint(11, 2) : QPoint(16, 16);
+// Where the pointer points: the tip of the finger, the middle of the sign. The X server counts the
+// dots of the picture, others count pixels.
+QPoint HotSpot(Integer pointer, qreal ratio) {
+  const QPoint spot = pointer == PicturePointerPlay ? QPoint(11, 2) : QPoint(16, 16);
+  return QGuiApplication::platformName() == "xcb" ? (spot * ratio) : spot;
 }
 
 }  // namespace
@@ -36,11 +39,10 @@ void PictureView::ShowModel(const PictureBox& box) {
 void PictureView::ShowPointer(Integer picture) {
   if (pointer_ == picture) return;
   pointer_ = picture;
-  const QPoint spot = HotSpot(picture);
-  if (picture == 0)
-    unsetCursor();
-  else
-    setCursor(QCursor(CardPicture(picture, devicePixelRatioF()), spot.x(), spot.y()));
+  if (picture == 0) return unsetCursor();
+  const qreal ratio = devicePixelRatioF();
+  const QPoint spot = HotSpot(picture, ratio);
+  setCursor(QCursor(CardPicture(picture, ratio), spot.x(), spot.y()));
 }
 
 void PictureView::paintEvent(QPaintEvent*) {

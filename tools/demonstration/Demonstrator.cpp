@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QWidget>
 
+#include "engine/RoundDriver.h"
 #include "engine/TrickPlay.h"
 #include "robots/Bidding.h"
 #include "robots/FourthHand.h"
@@ -20,6 +21,9 @@ namespace {
 
 constexpr int ThinkingMs = 600;  // a person looks before every click
 constexpr int TrickOfPicture = 7;
+
+// A display that lets no click through must not keep the demonstration for ever.
+constexpr int LongestMs = 240'000;
 
 // Where a card can be clicked though its neighbours in the hand lie over it.
 constexpr QPoint SpotOnCard(10, 48);
@@ -69,19 +73,21 @@ Integer ChooseCard() {
 }  // namespace
 
 Demonstrator::Demonstrator(std::filesystem::path folder) : folder_(std::move(folder)) {
+  clock_.start();
   startTimer(ThinkingMs);
 }
 
 void Demonstrator::timerEvent(QTimerEvent*) {
-  Act();
+  if (clock_.elapsed() > LongestMs)
+    QCoreApplication::quit();
+  else
+    Act();
 }
 
 void Demonstrator::Act() {
   if (MFormDeluxe.Visible) return LeaveWithScore();
-  if (!HasPicture("1-welcome")) {
-    TakePicture("1-welcome");
-    return PressKey(FindWidget("FrmMain"), Qt::Key_F2);
-  }
+  TakePicture("1-welcome");
+  if (!HandIsUnderWay()) return PressKey(FindWidget("FrmMain"), Qt::Key_F2);
   if (TrumpSuit >= Diamonds) TakePicture("2-dealt");
   if (Table.FramBids.Visible) {
     TakePicture("3-bidding");

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include <QElapsedTimer>
 #include <QObject>
 
 class QWidget;
@@ -31,6 +32,7 @@ class Demonstrator : public QObject {
   void TakePicture(const char* name);
   bool HasPicture(const char* name) const { return taken_.contains(name); }
 
+  QElapsedTimer clock_;
   std::filesystem::path folder_;
   std::set<std::string> taken_;
   std::vector<std::string> pictures_;

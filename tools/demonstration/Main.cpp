@@ -37,6 +37,7 @@ int Report(const Parlino::Demonstrator& demonstrator, const fs::path& folder) {
   for (const std::string& picture : demonstrator.Pictures()) std::cout << "  " << picture << '\n';
   const bool whole = demonstrator.Pictures().size() == picturesWanted &&
                      demonstrator.CardsPlayed().size() == linesOfHand;
+  if (!whole) std::cerr << "parlino-demonstration: the hand was not played to its end\n";
   return whole ? 0 : 1;
 }
 
