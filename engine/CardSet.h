@@ -27,8 +27,8 @@ class CardSet {
 
   CardSet() = default;
 
-  // The cards of the suit beginning with card `first` for which the condition holds. Built without a
-  // branch, because whose a card is cannot be predicted.
+  // The cards of the suit beginning with card `first` for which the condition holds. Built without
+  // a branch, because whose a card is cannot be predicted.
   template <class Condition>
   static CardSet OfSuit(int first, Condition holds) {
     CardSet set;

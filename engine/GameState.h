@@ -116,14 +116,12 @@ inline constexpr Integer CardNumber(int value, int suit) {
 
 // The cards of one suit in the hand of the seat: a fresh look through the pack.
 inline CardSet HandOf(Integer seat, Integer suit) {
-  return CardSet::OfSuit(FirstCardOf(suit),
-                         [seat](int card) { return Pack[card].Owner == seat; });
+  return CardSet::OfSuit(FirstCardOf(suit), [seat](int card) { return Pack[card].Owner == seat; });
 }
 
 // The whole hand of the seat.
 inline CardSet HandOf(Integer seat) {
-  return HandOf(seat, Diamonds) | HandOf(seat, Clubs) | HandOf(seat, Hearts) |
-         HandOf(seat, Spades);
+  return HandOf(seat, Diamonds) | HandOf(seat, Clubs) | HandOf(seat, Hearts) | HandOf(seat, Spades);
 }
 
 // "Diamonds".."Spades" for a suit 4..7.

@@ -1,5 +1,7 @@
 #include "table/window/MessageWindow.h"
 
+#include <algorithm>
+
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QPainter>
@@ -87,12 +89,14 @@ void MessageWindow::ShowModel(const MessageDialogView& dialog) {
 }
 
 void MessageWindow::Place(const MessageDialogView& dialog) {
-  const QPoint screen = window()->screen()->geometry().topLeft();
+  const QRect screen = window()->screen()->geometry();
   const QRect place = ToPixels({dialog.Left, dialog.Top, dialog.Width, dialog.Height});
   setWindowTitle(title_->text().trimmed());
   setAccessibleDescription(prompt_->text());
   setFixedSize(place.size());
-  move(screen + place.topLeft());
+  // A prompt much taller than the one before would push the buttons off the screen.
+  const int lowest = std::max(0, screen.height() - place.height());
+  move(screen.topLeft() + QPoint(place.left(), std::min(place.top(), lowest)));
   title_->setGeometry(ToPixels(dialog.Label3Place));
   prompt_->setGeometry(ToPixels(dialog.Label2Place));
   picture_->setGeometry(ToPixels(dialog.Picture1));

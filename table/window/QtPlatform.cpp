@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QScreen>
 #include <QTime>
@@ -43,7 +44,7 @@ void QtPlatform::ShowModel() {
 
 void QtPlatform::WaitForToolkit(std::uint32_t atMostMs) {
   pump_.Wait(atMostMs);
-  if (pump_.EndIsWanted()) throw ProgramEnded{};
+  if (pump_.EndIsWanted()) UnloadAllForms();
 }
 
 // An event is taken off before it is raised: its handler may process events in turn, or never
@@ -90,7 +91,7 @@ std::string QtPlatform::InputBox(std::string_view prompt, std::string_view title
   box.setWindowTitle(ToText(title));
   box.setLabelText(ToText(prompt));
   box.setTextValue(ToText(defaultAnswer));
-  box.setMinimumWidth(widthOfTitle);
+  box.findChild<QLineEdit*>()->setMinimumWidth(widthOfTitle);
   ShowAndWait(box);
   return box.result() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
 }

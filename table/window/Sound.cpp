@@ -4,6 +4,8 @@
 
 #include <QLibrary>
 
+#include "table/CardDisplay.h"
+
 namespace Parlino {
 namespace {
 
@@ -77,6 +79,8 @@ bool Sound::Open() {
 }
 
 void Sound::Start(std::string_view fileName) {
+  // A device may have come since: every deal asks once more.
+  if (fileName == ShuffleSound) isSilent_ = false;
   if (isSilent_) return;
   if (context_ == nullptr && !Open()) {
     isSilent_ = true;
@@ -87,7 +91,7 @@ void Sound::Start(std::string_view fileName) {
   const int result = TheLibrary().play(context_, OnlySound, "media.filename", path.c_str(),
                                        static_cast<const char*>(nullptr));
   if (result == 0 || result == FileNotFound) return;
-  // No device will come while the game runs; asking for it again before every card costs time.
+  // Asking for a device before every card costs time.
   isSilent_ = true;
   Close();
 }

@@ -1,5 +1,7 @@
 #include "table/window/TableWindow.h"
 
+#include <algorithm>
+
 #include <QCloseEvent>
 #include <QIcon>
 #include <QMenuBar>
@@ -64,7 +66,10 @@ void TableWindow::ShowModel() {
 }
 
 void TableWindow::PutInMiddleOfScreen() {
-  move(screen()->availableGeometry().center() - rect().center());
+  const QRect room = screen()->availableGeometry();
+  const QPoint middle = room.center() - rect().center();
+  // On a screen that is too small the menu is what must be seen.
+  move(std::max(room.left(), middle.x()), std::max(room.top(), middle.y()));
 }
 
 // The icon is drawn after the table has been seen for the first time: nobody waits for it.

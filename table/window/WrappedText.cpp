@@ -9,6 +9,8 @@
 
 namespace Parlino {
 
+// What is too long loses its middle: names stand at the beginning of a text, what is said of them
+// at its end.
 QStringList WrapText(const QString& text, const QFont& font, int width, int mostLines) {
   const QFontMetrics metrics(font);
   if (metrics.horizontalAdvance(text) <= width) return {text};
@@ -27,7 +29,7 @@ QStringList WrapText(const QString& text, const QFont& font, int width, int most
   }
   const QTextLine last = layout.createLine();
   if (last.isValid())
-    lines.append(metrics.elidedText(text.mid(last.textStart()), Qt::ElideRight, width));
+    lines.append(metrics.elidedText(text.mid(last.textStart()), Qt::ElideMiddle, width));
   layout.endLayout();
   return lines;
 }

@@ -23,6 +23,7 @@ TEST_F(Boxes, TheNameIsAskedForWithTheDefaultSelected) {
     auto* box = qobject_cast<QInputDialog*>(OpenBox());
     ASSERT_NE(box, nullptr);
     EXPECT_EQ(box->windowTitle(), "Enter name of West Bot");
+    EXPECT_GE(box->width(), 360) << "the title must not be cut";
     EXPECT_EQ(box->labelText(), "Replace West Robot with name of your choice?");
     EXPECT_EQ(box->findChild<QLineEdit*>()->selectedText(), "West Bot");
     box->setTextValue("Ren\u00e9 & Co");

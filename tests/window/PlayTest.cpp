@@ -58,6 +58,11 @@ TEST(Play, AWholeHandCanBePlayedByMouse) {
 // A hand that is abandoned at any of these places starts again, and the program can be left.
 enum class Moment { WhileDealing, BeforeTheBid, BeforeTheCard };
 
+void PrintTo(Moment moment, std::ostream* out) {
+  constexpr const char* names[] = {"while dealing", "before the bid", "before the card"};
+  *out << names[static_cast<int>(moment)];
+}
+
 bool HasCome(Moment moment) {
   switch (moment) {
     case Moment::WhileDealing:
