@@ -59,8 +59,7 @@ void LayOutHand(Integer seat) {
   const HandLayout& layout = HandLayouts[seat];
   TablePoint place = layout.first;
   for (const Integer card : HandOf(seat)) {
-    SetPicture(Table.Cds[card], layout.picture == 0 ? card : layout.picture);
-    MoveTo(Table.Cds[card], place);
+    SetPictureAt(Table.Cds[card], layout.picture == 0 ? card : layout.picture, place);
     place.Left += layout.step.Left;
     place.Top += layout.step.Top;
   }

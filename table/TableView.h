@@ -166,6 +166,13 @@ inline void MoveTo(Control& control, TablePoint place) {
   NoteChange(control);
 }
 
+// Both in one change, for the hands are laid out again after every card.
+inline void SetPictureAt(PictureBox& box, Integer picture, TablePoint place) {
+  box.Picture = picture;
+  box.Place = place;
+  NoteChange(box);
+}
+
 // Creates Cds[2]..Cds[52] as hidden copies of Cds[1].
 void CreateCardPictures();
 
