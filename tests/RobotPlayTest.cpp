@@ -2,9 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "engine/TrickPlay.h"
-#include "robots/FourthHand.h"
-#include "robots/Lead.h"
-#include "robots/SecondAndThirdHand.h"
+#include "robots/AnyHand.h"
 #include "table/TableView.h"
 #include "tests/support/HeadlessGame.h"
 
@@ -81,19 +79,6 @@ const Position positions[] = {
     {'H', "TD AS 4C", "2H 4D", "", "4D", "follows suit low behind partner's ace of another suit"},
 };
 
-Integer ChooseFor(int position, Integer seat) {
-  switch (position) {
-    case 1:
-      return ChooseFirstCard(seat);
-    case 2:
-      return ChooseSecondCard(seat);
-    case 3:
-      return ChooseThirdCard(seat);
-    default:
-      return ChooseFourthCard(seat);
-  }
-}
-
 // Every card that is neither in the hand, nor gone, nor in the trick lies in other hands.
 void SetUpPosition(const Position& position, Integer seat, Integer otherSeat) {
   SetItUp();
@@ -113,7 +98,7 @@ TEST(RobotPlay, PlaysTheGoldenPositions) {
   const HeadlessGame game;
   for (const Position& position : positions) {
     SetUpPosition(position, North, Player);
-    const Integer card = ChooseFor(CardsIn(position.trick) + 1, North);
+    const Integer card = ChooseCardAt(CardsIn(position.trick) + 1, North);
     EXPECT_EQ(CardText(card), position.expected)
         << position.why << ": trumps " << position.trumps << ", trick " << position.trick
         << ", hand " << position.hand;
@@ -126,7 +111,7 @@ TEST(RobotPlay, DoesNotDependOnTheSeatOrOnWhoHoldsTheHiddenCards) {
     for (Integer seat = Player; seat <= East; ++seat) {
       for (int places = 1; places <= 3; ++places) {
         SetUpPosition(position, seat, SeatAfter(seat, places));
-        const Integer card = ChooseFor(CardsIn(position.trick) + 1, seat);
+        const Integer card = ChooseCardAt(CardsIn(position.trick) + 1, seat);
         ASSERT_EQ(CardText(card), position.expected) << position.why << ", seat " << seat;
       }
     }

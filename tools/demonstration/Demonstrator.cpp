@@ -9,10 +9,8 @@
 
 #include "engine/RoundDriver.h"
 #include "engine/TrickPlay.h"
+#include "robots/AnyHand.h"
 #include "robots/Bidding.h"
-#include "robots/FourthHand.h"
-#include "robots/Lead.h"
-#include "robots/SecondAndThirdHand.h"
 #include "table/MessageDialog.h"
 #include "table/TableView.h"
 
@@ -57,19 +55,6 @@ void PressKey(QWidget* widget, Qt::Key key) {
     QCoreApplication::postEvent(widget, new QKeyEvent(type, key, Qt::NoModifier));
 }
 
-Integer ChooseCard() {
-  switch (HumansPosition()) {
-    case 1:
-      return ChooseFirstCard(Player);
-    case 2:
-      return ChooseSecondCard(Player);
-    case 3:
-      return ChooseThirdCard(Player);
-    default:
-      return ChooseFourthCard(Player);
-  }
-}
-
 }  // namespace
 
 Demonstrator::Demonstrator(std::filesystem::path folder) : folder_(std::move(folder)) {
@@ -95,7 +80,7 @@ void Demonstrator::Act() {
   }
   if (PlayerTurn == False) return;
   if (TrickNumber == TrickOfPicture) TakePicture("4-middle");
-  Click(FindWidget("Cds", ChooseCard()), SpotOnCard);
+  Click(FindWidget("Cds", ChooseCardAt(HumansPosition(), Player)), SpotOnCard);
 }
 
 void Demonstrator::LeaveWithScore() {

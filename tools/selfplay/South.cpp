@@ -3,10 +3,8 @@
 #include <string_view>
 
 #include "engine/TrickPlay.h"
+#include "robots/AnyHand.h"
 #include "robots/Bidding.h"
-#include "robots/FourthHand.h"
-#include "robots/Lead.h"
-#include "robots/SecondAndThirdHand.h"
 #include "table/TableEvents.h"
 #include "table/TableView.h"
 
@@ -18,19 +16,6 @@ constexpr double PlayersRow = 6600;  // where the Player's hand lies, twips
 bool LiesInPlayersHand(int card) {
   const PictureBox& picture = Table.Cds[card];
   return (picture.Picture == card) & picture.Visible & (picture.Place.Top == PlayersRow);
-}
-
-int ChooseCardAsRobot() {
-  switch (HumansPosition()) {
-    case 1:
-      return ChooseFirstCard(Player);
-    case 2:
-      return ChooseSecondCard(Player);
-    case 3:
-      return ChooseThirdCard(Player);
-    default:
-      return ChooseFourthCard(Player);
-  }
 }
 
 CardSet HandOnTable() {
@@ -75,7 +60,7 @@ int South::ChooseBid() {
 }
 
 int South::ChooseCard() {
-  if (kind_ == SouthKind::Robot) return ChooseCardAsRobot();
+  if (kind_ == SouthKind::Robot) return ChooseCardAt(HumansPosition(), Player);
   const CardSet cards = Playable(HandOnTable());
   auto choice = cards.begin();
   for (int skipped = generator_.NextBelow(cards.Count()); skipped > 0; --skipped) ++choice;
