@@ -51,6 +51,7 @@ void Click(QWidget* widget, QPoint spot) {
 
 void PressKey(QWidget* widget, Qt::Key key) {
   if (widget == nullptr) return;
+  widget->activateWindow();  // keys go to the window in front, which no manager may have chosen yet
   for (const auto type : {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease})
     QCoreApplication::postEvent(widget, new QKeyEvent(type, key, Qt::NoModifier));
 }
