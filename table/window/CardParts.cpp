@@ -92,7 +92,7 @@ void BuildCards(const PartsBin& bin) {
       view->ShowModel(box);
       view->setAccessibleName(SpokenCard(box.Picture));
     };
-    bin.mirror.Link(box, view, show, Placing::Follows);
+    bin.mirror.Link(box, view, show, Placing::Glides);
   }
 }
 

@@ -1,5 +1,6 @@
 #include "table/window/QtPlatform.h"
 
+#include <algorithm>
 #include <chrono>
 
 #include <QApplication>
@@ -28,13 +29,14 @@ QtPlatform::QtPlatform(const std::filesystem::path& folder)
     : files_(folder), sound_(folder), table_(pending_) {}
 
 void QtPlatform::ProcessEvents(std::uint32_t atMostMs) {
-  ShowModel();
-  if (pending_.IsEmpty()) WaitForToolkit(atMostMs);
+  ShowModel(atMostMs);
+  if (pending_.IsEmpty())
+    WaitForToolkit(std::min(atMostMs, table_.Motion().MsToNextFrame(Ticks())));
   RaisePendingEvents();
 }
 
-void QtPlatform::ShowModel() {
-  table_.ShowModel();
+void QtPlatform::ShowModel(std::uint32_t pauseMs) {
+  table_.ShowModel(Ticks(), pauseMs);
   if (message_ == nullptr && MFormDeluxe.Visible)
     message_ = std::make_unique<MessageWindow>(pending_, &table_);
   if (message_ == nullptr) return;
@@ -74,8 +76,8 @@ void QtPlatform::ShowAndWait(QDialog& box) {
   box.setWindowModality(Qt::ApplicationModal);
   box.show();
   while (box.isVisible()) {
-    ShowModel();
-    WaitForToolkit(Forever);
+    ShowModel(Forever);
+    WaitForToolkit(table_.Motion().MsToNextFrame(Ticks()));
   }
   pending_.Clear();
 }

@@ -38,12 +38,15 @@ class QtPlatform : public Platform {
   void SetFileAside(std::string_view fileName) override;
   bool FileExists(std::string_view fileName) override;
 
+  // How the cards of the table move.
+  Glides& Motion() { return table_.Motion(); }
+
  protected:
   // Lets the toolkit work while the game waits; all waiting goes through here.
   virtual void WaitForToolkit(std::uint32_t atMostMs);
 
  private:
-  void ShowModel();
+  void ShowModel(std::uint32_t pauseMs);
   void RaisePendingEvents();
   void ShowAndWait(QDialog& box);
   QWidget* OwnerOfBoxes();

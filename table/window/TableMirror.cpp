@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include "table/window/Design.h"
+#include "table/window/Glides.h"
 
 namespace Parlino {
 namespace {
@@ -24,17 +25,17 @@ void TableMirror::Link(const Control& control, QWidget* widget, std::function<vo
   ties_.push_back({&control, widget, std::move(show), placing});
 }
 
-void TableMirror::ShowChanges() {
+void TableMirror::ShowChanges(std::uint32_t now, std::uint32_t pauseMs) {
   if (shown_ == Table.Changes) return;
   for (Tie& tie : ties_)
-    if (!shown_ || tie.control->Changed > *shown_) ShowControl(tie);
+    if (!shown_ || tie.control->Changed > *shown_) ShowControl(tie, {now, pauseMs});
   RaiseChanged();
   shown_ = Table.Changes;
 }
 
-void TableMirror::ShowControl(Tie& tie) {
+void TableMirror::ShowControl(Tie& tie, const Pause& pause) {
   tie.show();
-  if (tie.placing == Placing::Follows) tie.widget->move(ToPixels(tie.control->Place));
+  if (tie.placing != Placing::Fixed) ShowPlace(tie, pause);
   if (tie.control->Visible)
     tie.widget->show();
   else if (!tie.widget->isHidden())
@@ -42,6 +43,18 @@ void TableMirror::ShowControl(Tie& tie) {
   if (tie.layer == tie.control->Layer) return;
   tie.layer = tie.control->Layer;
   toRaise_.push_back(&tie);
+}
+
+// Only what was to be seen before and still is can be seen on its way.
+void TableMirror::ShowPlace(const Tie& tie, const Pause& pause) {
+  glides_.Cut(tie.widget);
+  const QPoint place = ToPixels(tie.control->Place);
+  if (place == tie.widget->pos()) return;
+  const bool isSeen = tie.control->Visible && !tie.widget->isHidden();
+  if (tie.placing == Placing::Glides && isSeen)
+    glides_.Begin(tie.widget, place, pause.begins, pause.lengthMs);
+  else
+    tie.widget->move(place);
 }
 
 void TableMirror::RaiseChanged() {

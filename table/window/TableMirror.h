@@ -12,10 +12,15 @@ class QWidget;
 
 namespace Parlino {
 
-enum class Placing { Fixed, Follows };  // whether the control's place in the model is the widget's
+class Glides;
+
+// Whether the widget stands at the control's place in the model, and how it gets there.
+enum class Placing { Fixed, Jumps, Glides };
 
 class TableMirror {
  public:
+  explicit TableMirror(Glides& glides) : glides_(glides) {}
+
   // Ties a widget to its control. `show` puts the control's own properties into it; being visible,
   // place and layer are the mirror's. Widgets start in the order of their creation, the first at
   // the back.
@@ -26,8 +31,9 @@ class TableMirror {
   // Keeps the widget in front of all that is brought to the front after it.
   void KeepInFront(QWidget* widget) { front_ = widget; }
 
-  // Shows every control that has changed since the last call.
-  void ShowChanges();
+  // Shows every control that has changed since the last call. `now` is a tick of the platform, and
+  // `pauseMs` says how long the game is about to pause: so long a card may be on its way.
+  void ShowChanges(std::uint32_t now, std::uint32_t pauseMs);
 
  private:
   struct Tie {
@@ -38,9 +44,16 @@ class TableMirror {
     std::uint32_t layer = 0;  // as shown
   };
 
-  void ShowControl(Tie& tie);
+  struct Pause {
+    std::uint32_t begins;
+    std::uint32_t lengthMs;
+  };
+
+  void ShowControl(Tie& tie, const Pause& pause);
+  void ShowPlace(const Tie& tie, const Pause& pause);
   void RaiseChanged();
 
+  Glides& glides_;
   std::vector<Tie> ties_;
   std::vector<Tie*> toRaise_;
   QWidget* front_ = nullptr;

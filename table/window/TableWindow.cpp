@@ -56,13 +56,14 @@ void TableWindow::BuildTable() {
   BuildStatusBar(bin);
 }
 
-void TableWindow::ShowModel() {
-  mirror_.ShowChanges();
+void TableWindow::ShowModel(std::uint32_t now, std::uint32_t pauseMs) {
+  mirror_.ShowChanges(now, pauseMs);
+  glides_.DrawFrame(now);
   if (Table.FrmMain.Visible && !isVisible()) {
     PutInMiddleOfScreen();
     show();
   }
-  if (wasPainted_ && windowIcon().isNull()) TakeIcon();
+  if (wasPainted_ && !desktop_) FollowDesktop();
 }
 
 void TableWindow::PutInMiddleOfScreen() {
@@ -72,7 +73,12 @@ void TableWindow::PutInMiddleOfScreen() {
   move(std::max(room.left(), middle.x()), std::max(room.top(), middle.y()));
 }
 
-// The icon is drawn after the table has been seen for the first time: nobody waits for it.
+// Comes after the table has been seen for the first time: nobody waits for it.
+void TableWindow::FollowDesktop() {
+  TakeIcon();
+  desktop_.emplace([this](bool wantsMotion) { glides_.Allow(wantsMotion); });
+}
+
 void TableWindow::TakeIcon() {
   QIcon icon;
   for (const int size : {16, 32, 48, 64, 128}) icon.addPixmap(IconPicture(size));

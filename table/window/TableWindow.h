@@ -2,8 +2,13 @@
 // resized; nothing in it moves.
 #pragma once
 
+#include <cstdint>
+#include <optional>
+
 #include <QWidget>
 
+#include "table/window/DesktopMotion.h"
+#include "table/window/Glides.h"
 #include "table/window/TableMirror.h"
 
 namespace Parlino {
@@ -14,8 +19,12 @@ class TableWindow : public QWidget {
  public:
   explicit TableWindow(PendingEvents& pending);
 
-  // Shows what has changed in the model, the window itself included.
-  void ShowModel();
+  // Shows what has changed in the model, the window itself included, and the cards on their way.
+  // `now` is a tick of the platform, `pauseMs` how long the game is about to pause.
+  void ShowModel(std::uint32_t now, std::uint32_t pauseMs);
+
+  // How the cards move.
+  Glides& Motion() { return glides_; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -25,12 +34,15 @@ class TableWindow : public QWidget {
  private:
   void BuildTable();
   void PutInMiddleOfScreen();
+  void FollowDesktop();
   void TakeIcon();
 
   PendingEvents& pending_;
-  TableMirror mirror_;
+  Glides glides_;
+  TableMirror mirror_{glides_};
   QWidget* table_;
   bool wasPainted_ = false;
+  std::optional<DesktopMotion> desktop_;
 };
 
 }  // namespace Parlino

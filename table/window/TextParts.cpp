@@ -73,7 +73,7 @@ void BuildNames(const PartsBin& bin) {
     auto* label = Named(new CaptionLabel({Colours::LightYellow, font, Qt::AlignLeft}, &bin.parent),
                         MemberName("LblName", seat));
     bin.mirror.Link(
-        Table.LblName[seat], label, [label, seat] { ShowName(label, seat); }, Placing::Follows);
+        Table.LblName[seat], label, [label, seat] { ShowName(label, seat); }, Placing::Jumps);
   }
 }
 

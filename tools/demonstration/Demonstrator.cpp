@@ -97,6 +97,7 @@ void Demonstrator::LeaveWithScore() {
 void Demonstrator::TakePicture(const char* name) {
   if (HasPicture(name)) return;
   taken_.insert(name);
+  if (folder_.empty()) return;
   const std::filesystem::path file = folder_ / (std::string(name) + ".png");
   if (QApplication::primaryScreen()->grabWindow(0).save(QString::fromStdString(file.string())))
     pictures_.push_back(file.string());

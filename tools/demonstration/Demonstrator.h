@@ -16,7 +16,7 @@ namespace Parlino {
 
 class Demonstrator : public QObject {
  public:
-  // Pictures go into `folder`.
+  // Pictures go into `folder`; without one none are taken.
   explicit Demonstrator(std::filesystem::path folder);
 
   [[nodiscard]] const std::vector<std::string>& Pictures() const { return pictures_; }

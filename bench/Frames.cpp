@@ -1,0 +1,78 @@
+// parlino-frames: plays one hand in the real window in real time and prints, for the deal and for
+// the whole hand, how many frames of gliding cards were drawn, how many the display showed without
+// a new one, how often the window was painted and how long that took.
+
+#include <algorithm>
+#include <cstdio>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QEvent>
+#include <QTemporaryDir>
+
+#include "engine/Generator.h"
+#include "game/Game.h"
+#include "persistence/DataFiles.h"
+#include "table/TableView.h"
+#include "table/window/QtPlatform.h"
+#include "tools/demonstration/Demonstrator.h"
+
+namespace {
+
+struct Paintings {
+  int count = 0;
+  double totalMs = 0;
+  double longestMs = 0;
+};
+
+// The toolkit paints the window in answer to one event, which is watched here.
+class WatchedApplication : public QApplication {
+ public:
+  using QApplication::QApplication;
+  Paintings paintings;
+  std::function<void()> afterPainting = [] {};
+
+  bool notify(QObject* receiver, QEvent* event) override {
+    if (event->type() != QEvent::UpdateRequest) return QApplication::notify(receiver, event);
+    QElapsedTimer clock;
+    clock.start();
+    const bool done = QApplication::notify(receiver, event);
+    constexpr double nsInMs = 1e6;
+    const double ms = static_cast<double>(clock.nsecsElapsed()) / nsInMs;
+    ++paintings.count;
+    paintings.totalMs += ms;
+    paintings.longestMs = std::max(paintings.longestMs, ms);
+    afterPainting();
+    return done;
+  }
+};
+
+void Print(const char* what, const Parlino::Glides& motion, const Paintings& paintings) {
+  std::printf(
+      "%s: %d frames drawn, %d dropped; painted %d times, %.1f ms on average, %.1f at most\n", what,
+      motion.FramesDrawn(), motion.FramesDropped(), paintings.count,
+      paintings.totalMs / paintings.count, paintings.longestMs);
+}
+
+}  // namespace
+
+int main(int count, char* arguments[]) {
+  constexpr std::uint64_t seed = 5;
+  WatchedApplication application(count, arguments);
+  const QTemporaryDir folder;
+  Parlino::QtPlatform platform(folder.path().toStdString());
+  for (const Parlino::FirstRecord& first : Parlino::FirstRecords)
+    platform.ReplaceFile(first.file, first.record);
+  Parlino::SetUpGame(platform);
+  Parlino::DealGenerator.Seed(seed);
+  bool isDealt = false;
+  application.afterPainting = [&] {
+    if (isDealt || !Parlino::Table.FramBids.Visible) return;
+    isDealt = true;
+    Print("deal", platform.Motion(), application.paintings);
+  };
+  const Parlino::Demonstrator player({});
+  const int status = Parlino::RunGame();
+  Print("hand", platform.Motion(), application.paintings);
+  return status;
+}

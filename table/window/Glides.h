@@ -1,0 +1,58 @@
+// The way of a card between two places of the model, drawn as a short glide. The model is at the
+// new place at once; only the picture takes its time, and never longer than the game pauses.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include <QPoint>
+
+class QWidget;
+
+namespace Parlino {
+
+// Times are milliseconds of the platform's tick counter.
+class Glides {
+ public:
+  // Whether cards glide at all. Those under way end where they were going.
+  void Allow(bool allowed);
+
+  // The widget leaves for `goal` and is there before `pauseMs` milliseconds have passed.
+  void Begin(QWidget* widget, QPoint goal, std::uint32_t now, std::uint32_t pauseMs);
+
+  // Ends the widget's glide where it was going; without one nothing happens.
+  void Cut(const QWidget* widget);
+
+  // Moves every gliding widget on when the display's next frame is due.
+  void DrawFrame(std::uint32_t now);
+
+  // How long nothing need be drawn; `Forever` when nothing glides.
+  [[nodiscard]] std::uint32_t MsToNextFrame(std::uint32_t now) const;
+
+  // Frames drawn, and frames of the display that passed while one was due.
+  [[nodiscard]] int FramesDrawn() const { return framesDrawn_; }
+  [[nodiscard]] int FramesDropped() const { return framesDropped_; }
+
+ private:
+  struct Glide {
+    QWidget* widget;
+    QPoint from;
+    QPoint goal;
+    std::uint32_t begun;
+    double lengthMs;
+  };
+
+  void BeginCounting(const QWidget& widget, std::uint32_t now);
+  [[nodiscard]] bool Advance(const Glide& glide, std::uint32_t now) const;
+
+  std::vector<Glide> glides_;
+  bool areAllowed_ = true;
+  // Frames are counted from the moment the first card left while nothing else was gliding.
+  std::uint32_t firstFrame_ = 0;
+  int nextFrame_ = 0;
+  double frameMs_ = 0;
+  int framesDrawn_ = 0;
+  int framesDropped_ = 0;
+};
+
+}  // namespace Parlino

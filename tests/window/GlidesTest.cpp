@@ -1,0 +1,224 @@
+// Cards on their way: never beside it, never late, and no time taken from the game.
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusMetaType>
+#include <QDBusVirtualObject>
+#include <QEvent>
+#include <QTest>
+
+#include "WindowGame.h"
+#include "engine/Deal.h"
+#include "engine/GameState.h"
+#include "table/CardDisplay.h"
+#include "table/window/Design.h"
+#include "table/window/DesktopMotion.h"
+#include "table/window/TableParts.h"
+
+namespace Parlino {
+namespace {
+
+class Motion : public testing::Test {
+ protected:
+  Motion() {
+    game.Load();
+    game.platform.Motion().Allow(true);
+    PlacePackDeal();
+    game.Turn();
+  }
+
+  // Lets `ms` of a pause of `pauseMs` go by.
+  void Pass(std::uint32_t ms, std::uint32_t pauseMs) {
+    const std::uint32_t begun = game.platform.Ticks();
+    for (std::uint32_t gone = 0; gone < ms; gone = game.platform.Ticks() - begun)
+      game.platform.ProcessEvents(pauseMs - gone);
+  }
+
+  WindowGame game;
+  QWidget& card = game.Find("Cds(52)");
+};
+
+double Distance(QPoint a, QPoint b) {
+  return std::hypot(a.x() - b.x(), a.y() - b.y());
+}
+
+// Sees every painting of a card, and tells when it stood beside the way from the place the model
+// had given it before to the one it has now.
+class WayWatcher : public QObject {
+ public:
+  WayWatcher() {
+    for (int card = 1; card <= CardsInPack; ++card) ways_[card] = {PlaceOf(card), PlaceOf(card)};
+    QCoreApplication::instance()->installEventFilter(this);
+  }
+
+  void NoteModel() {
+    for (int card = 1; card <= CardsInPack; ++card)
+      if (PlaceOf(card) != ways_[card].to) ways_[card] = {ways_[card].to, PlaceOf(card)};
+  }
+
+  int paintings = 0;
+  int onTheWay = 0;
+  QStringList astray;
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override {
+    if (event->type() != QEvent::Paint || !object->objectName().startsWith("Cds(")) return false;
+    const int card = object->objectName().mid(4).chopped(1).toInt();
+    const QPoint place = qobject_cast<QWidget*>(object)->pos();
+    const auto& [from, to] = ways_[card];
+    constexpr double rounding = 1.5;
+    ++paintings;
+    if (place != to && place != from) ++onTheWay;
+    if (Distance(from, place) + Distance(place, to) > Distance(from, to) + rounding)
+      astray << object->objectName();
+    return false;
+  }
+
+ private:
+  struct Way {
+    QPoint from;
+    QPoint to;
+  };
+  static QPoint PlaceOf(int card) { return ToPixels(Table.Cds[card].Place); }
+
+  Indexed<Way, 1, CardsInPack> ways_;
+};
+
+TEST_F(Motion, ADealDrawsNoCardBesideItsWay) {
+  WayWatcher watcher;
+  game.platform.person = [&] { watcher.NoteModel(); };
+  Dealer = West;
+  DealCards();
+  EXPECT_TRUE(watcher.astray.isEmpty()) << watcher.astray.join(' ').toStdString();
+  EXPECT_GT(watcher.onTheWay, CardsInPack);
+  EXPECT_GT(watcher.paintings, watcher.onTheWay);
+}
+
+TEST_F(Motion, ADealTakesNoLongerThanWithoutIt) {
+  std::uint32_t lengths[2];
+  for (const bool moves : {false, true}) {
+    game.platform.Motion().Allow(moves);
+    const std::uint32_t begun = game.platform.Ticks();
+    PlacePackDeal();
+    DealCards();
+    lengths[moves ? 1 : 0] = game.platform.Ticks() - begun;
+  }
+  EXPECT_EQ(lengths[0], lengths[1]);
+}
+
+TEST_F(Motion, ACardIsThereBeforeThePauseEndsAndSlowsDownOnItsWay) {
+  for (const std::uint32_t pause : {25U, 150U, 500U}) {
+    MoveTo(Table.Cds[52], pause == 150 ? TablePoint{5040, 3720} : TablePoint{2400, 6600});
+    const QPoint goal = ToPixels(Table.Cds[52].Place);
+    const double way = Distance(card.pos(), goal);
+    Pass(pause / 3, pause);
+    EXPECT_LT(Distance(card.pos(), goal), way / 2) << pause;
+    EXPECT_GT(Distance(card.pos(), goal), 0) << pause;
+    Pass(pause - pause / 3, pause);
+    EXPECT_EQ(card.pos(), goal) << pause;
+  }
+}
+
+TEST_F(Motion, TheNextChangeOfACardCutsItsWayShort) {
+  MoveTo(Table.Cds[52], {2400, 6600});
+  game.platform.ProcessEvents(500);
+  ASSERT_NE(card.pos(), ToPixels(TablePoint{2400, 6600}));
+  SetToolTip(Table.Cds[52], {"news"});
+  game.platform.ProcessEvents(500);
+  EXPECT_EQ(card.pos(), ToPixels(TablePoint{2400, 6600}));
+}
+
+TEST_F(Motion, ACardThatWasNotSeenBeforeIsAtItsPlaceAtOnce) {
+  Hide(Table.Cds[52]);
+  game.Turn();
+  MoveTo(Table.Cds[52], {2400, 6600});
+  Show(Table.Cds[52]);
+  game.platform.ProcessEvents(500);
+  EXPECT_EQ(card.pos(), ToPixels(TablePoint{2400, 6600}));
+  MoveTo(Table.Cds[52], {5040, 3720});
+  Hide(Table.Cds[52]);
+  game.platform.ProcessEvents(500);
+  EXPECT_TRUE(card.isHidden());
+}
+
+TEST_F(Motion, NothingIsDueWhileThePersonThinks) {
+  MoveTo(Table.Cds[52], {2400, 6600});
+  const auto due = [&] { return game.platform.Motion().MsToNextFrame(game.platform.Ticks()); };
+  game.platform.ProcessEvents(Forever);
+  EXPECT_NE(due(), Forever);
+  for (int frame = 1; frame <= 20; ++frame) game.platform.ProcessEvents(Forever);
+  EXPECT_EQ(due(), Forever);
+  EXPECT_EQ(card.pos(), ToPixels(TablePoint{2400, 6600}));
+}
+
+TEST_F(Motion, CardsUnderWayAreAtTheirGoalWhenMotionIsNotWanted) {
+  MoveTo(Table.Cds[52], {2400, 6600});
+  game.platform.ProcessEvents(500);
+  game.platform.Motion().Allow(false);
+  EXPECT_EQ(card.pos(), ToPixels(TablePoint{2400, 6600}));
+  MoveTo(Table.Cds[52], {5040, 3720});
+  game.platform.ProcessEvents(500);
+  EXPECT_EQ(card.pos(), ToPixels(TablePoint{5040, 3720}));
+}
+
+TEST(Desktop, EachKindOfDesktopCanAskForLessMotion) {
+  const struct {
+    const char* group;
+    const char* name;
+    QVariant value;
+    bool asks;
+  } cases[] = {
+      {"org.freedesktop.appearance", "reduced-motion", 1U, true},
+      {"org.freedesktop.appearance", "reduced-motion", 0U, false},
+      {"org.gnome.desktop.interface", "enable-animations", false, true},
+      {"org.gnome.desktop.interface", "enable-animations", true, false},
+      {"org.kde.kdeglobals.KDE", "AnimationDurationFactor", "0", true},
+      {"org.kde.kdeglobals.KDE", "AnimationDurationFactor", "0.5", false},
+      {"some.other.group", "reduced-motion", 1U, false},
+  };
+  for (const auto& [group, name, value, asks] : cases)
+    EXPECT_EQ(AsksForReducedMotion({{group, {{name, value}}}}), asks)
+        << group << ' ' << value.toString().toStdString();
+  EXPECT_FALSE(AsksForReducedMotion({}));
+}
+
+// A settings portal of our own on the test's session bus.
+class Portal : public QDBusVirtualObject {
+ public:
+  bool animates = true;
+
+  [[nodiscard]] QString introspect(const QString&) const override { return {}; }
+
+  bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override {
+    const DesktopSettings settings{
+        {"org.gnome.desktop.interface", {{"enable-animations", animates}}}};
+    return message.member() == "ReadAll" &&
+           bus.send(message.createReply(QVariant::fromValue(settings)));
+  }
+};
+
+TEST(Desktop, TheSettingsPortalIsAskedAndFollowed) {
+  auto bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "portal");
+  if (!bus.isConnected()) GTEST_SKIP() << "no session bus here";
+  qDBusRegisterMetaType<DesktopSettings>();
+  Portal portal;
+  const QString path = "/org/freedesktop/portal/desktop";
+  ASSERT_TRUE(bus.registerVirtualObject(path, &portal));
+  ASSERT_TRUE(bus.registerService("org.freedesktop.portal.Desktop"));
+  QList<bool> told;
+  const DesktopMotion desktop([&](bool wantsMotion) { told << wantsMotion; });
+  ASSERT_TRUE(QTest::qWaitFor([&] { return told.size() == 1; }));
+  portal.animates = false;
+  auto news = QDBusMessage::createSignal(path, "org.freedesktop.portal.Settings", "SettingChanged");
+  news << "org.gnome.desktop.interface"
+       << "enable-animations" << QVariant::fromValue(QDBusVariant(false));
+  bus.send(news);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return told.size() == 2; }));
+  EXPECT_EQ(told, (QList<bool>{true, false}));
+  QDBusConnection::disconnectFromBus("portal");
+}
+
+}  // namespace
+}  // namespace Parlino
