@@ -47,13 +47,15 @@ Drawing ComposeCard() {
 // visible when the next card of a hand covers the rest.
 Drawing ComposeIndex(const std::filesystem::path& sources, const Suit& suit, int value) {
   const Drawing rank = ReadDrawing(sources / "ranks" / (RankName(value) + ".svg"));
-  return "<g transform=\"translate(10.5 5)\" stroke=\"" + std::string(suit.colour) +
-         "\" stroke-width=\"2.7\">\n" + rank + "</g>\n" + Use("suit", MoveTo({10.5, 29}, 1.15));
+  return "<g transform=\"translate(9.5 5)\" stroke=\"" + std::string(suit.colour) +
+         "\" stroke-width=\"2.7\">\n" + rank + "</g>\n" + Use("suit", MoveTo({9.5, 29}, 1.15));
 }
 
+// Nine and ten pips stand closer together, so they are a little smaller.
 Drawing ComposePips(int value) {
+  const double scale = value < 9 ? 1.4 : 1.28;
   Drawing pips;
-  for (const Spot spot : PlacePips(value)) pips += Use("suit", MoveTo(spot, 1.1, IsTurned(spot)));
+  for (const Spot spot : PlacePips(value)) pips += Use("suit", MoveTo(spot, scale, IsTurned(spot)));
   return pips;
 }
 
@@ -70,7 +72,7 @@ Drawing ComposeCourt(const std::filesystem::path& sources, const Suit& suit, int
   return outline + "fill=\"" + suit.tint + "\"/>\n" +
          TwoHeaded(ReadDrawing(courts / figure), "figure") +
          ReadDrawing(courts / ("sash-of-" + std::string(suit.name) + ".svg")) + outline +
-         "fill=\"none\" stroke=\"" + suit.colour + "\" stroke-width=\".8\"/>\n";
+         "fill=\"none\" stroke=\"" + suit.colour + "\" stroke-width=\"1\"/>\n";
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <iostream>
 #include <string>
+#include <utility>
 
 #include "tools/picture-maker/Face.h"
 #include "tools/picture-maker/Suit.h"
@@ -25,11 +26,21 @@ void MakeFaces(const fs::path& sources, const fs::path& output) {
     WritePicture(NumberedFile(output, card), CardWidth, CardHeight, ComposeFace(sources, card));
 }
 
+Drawing MakeRed(Drawing back) {
+  struct Twin {
+    const char *blue, *red;
+  };
+  for (const Twin& twin :
+       {Twin{"#1d3f94", "#9c1328"}, Twin{"#dfe8ff", "#ffe6e0"}, Twin{"#6f8fd8", "#d8737c"}})
+    back = Repaint(std::move(back), twin.blue, twin.red);
+  return back;
+}
+
 // The back is drawn once, upright and blue.
 void MakeBacks(const fs::path& sources, const fs::path& output) {
   const auto back = sources / "backs";
   const Drawing blue = ReadDrawing(back / "back.svg");
-  const Drawing red = Repaint(Repaint(blue, "#1d3f94", "#a3142c"), "#dfe8ff", "#ffe3df");
+  const Drawing red = MakeRed(blue);
   const std::string sideways = "translate(96 0) rotate(90)";
 
   WritePicture(NumberedFile(output, 53), CardWidth, CardHeight, blue);

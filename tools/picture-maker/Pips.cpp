@@ -3,20 +3,20 @@
 namespace Parlino {
 namespace {
 
-constexpr double MiddleX = 35.5, MiddleY = 48, ToTheSide = 9.5;
+constexpr double MiddleX = 35.5, MiddleY = 48, ToTheSide = 10;
 
 std::vector<double> PlaceSideRows(int value) {
   switch (value) {
     case 4:
     case 5:
-      return {15, 81};
+      return {14, 82};
     case 6:
     case 7:
     case 8:
-      return {15, 48, 81};
+      return {14, 48, 82};
     case 9:
     case 10:
-      return {15, 37, 59, 81};
+      return {14, 36.6, 59.4, 82};
     default:
       return {};
   }
@@ -25,18 +25,18 @@ std::vector<double> PlaceSideRows(int value) {
 std::vector<double> PlaceMiddleRows(int value) {
   switch (value) {
     case 2:
-      return {15, 81};
+      return {14, 82};
     case 3:
-      return {15, 48, 81};
+      return {14, 48, 82};
     case 5:
     case 9:
       return {48};
     case 7:
-      return {31.5};
+      return {31};
     case 8:
-      return {31.5, 64.5};
+      return {31, 65};
     case 10:
-      return {26, 70};
+      return {25.3, 70.7};
     default:
       return {};
   }

@@ -7,13 +7,13 @@
 namespace Parlino {
 namespace {
 
-// The two reds and the two blacks differ in tone as well: one leans to orange,
+// The two reds and the two blacks differ a little in tone as well: one leans to orange,
 // one to green, so a glance at a colour is already half the answer.
 constexpr std::array Suits{
-    Suit{"diamonds", "#dc2f08", "#fff3d2"},
-    Suit{"clubs", "#0b4526", "#e6f3dc"},
-    Suit{"hearts", "#c3002f", "#ffe6e4"},
-    Suit{"spades", "#0a0a1e", "#e2e8f8"},
+    Suit{"diamonds", "#e0240f", "#fff3d2"},
+    Suit{"clubs", "#0d3a22", "#e6f3dc"},
+    Suit{"hearts", "#c20a2c", "#ffe6e4"},
+    Suit{"spades", "#0b0b18", "#e2e8f8"},
 };
 
 }  // namespace
