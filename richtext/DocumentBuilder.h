@@ -1,0 +1,48 @@
+// Puts the document together: text into paragraphs, those into cells, rows and tables or into the
+// document itself.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+
+#include "richtext/Format.h"
+#include "richtext/HeaderTables.h"
+#include "richtext/ParagraphBuilder.h"
+#include "richtext/RichText.h"
+#include "richtext/RowBuilder.h"
+
+namespace Parlino::RichText {
+
+class DocumentBuilder {
+ public:
+  // Looks fonts, colours and styles up in `tables`, which must outlive it.
+  explicit DocumentBuilder(const HeaderTables& tables) : text_(tables), row_(tables) {}
+
+  // Text of the paragraph that is being built, and of the bullet or number in front of it.
+  void Add(char32_t character, const Look& look) { text_.Add(character, look); }
+  void AddToMarker(char32_t character) { text_.AddToMarker(character); }
+  void ChangePlan(const ControlWord& word, std::optional<int> number);
+
+  // End what is being built; the layout is that of the paragraph that ends with it.
+  void EndParagraph(const Layout& layout);
+  void EndCell(const Layout& layout);
+  void EndRow(const Layout& layout);
+
+  // Whether the document is as large as any may become; what else is added may be lost.
+  [[nodiscard]] bool IsFull() const { return isFull_ || text_.IsFull(); }
+
+  // The document, with what was not ended.
+  Document Take(const Layout& layout);
+
+ private:
+  std::optional<Paragraph> TakeParagraph(const Layout& layout);
+  void AddRow();
+
+  ParagraphBuilder text_;
+  RowBuilder row_;
+  Document document_;
+  std::size_t paragraphs_ = 0;
+  bool isFull_ = false;
+};
+
+}  // namespace Parlino::RichText

@@ -1,0 +1,34 @@
+// How much of a document is read, and how far its numbers go. The bounds are beyond what a person
+// reads in a window and keep a hostile file from costing more than it is worth.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+
+namespace Parlino::RichText {
+
+// Reading ends when one of these is passed, and the document is cut.
+inline constexpr std::size_t MostCharacters = 2'000'000;
+inline constexpr std::size_t MostRuns = 200'000;
+inline constexpr std::size_t MostParagraphs = 50'000;  // those in cells counted too
+
+// What is beyond these is passed over.
+inline constexpr std::size_t MostColumns = 64;
+inline constexpr std::size_t MostTabs = 32;
+inline constexpr std::size_t MostTableEntries = 1'024;  // of fonts, colours, styles each
+inline constexpr std::size_t MostNameCharacters = 64;
+inline constexpr std::size_t MostNestedGroups = 256;
+
+inline constexpr int FurthestTwips = 31'680;  // 22 inches
+inline constexpr int SmallestHalfPoints = 2;
+inline constexpr int LargestHalfPoints = 800;
+
+// A distance to either side, and one that cannot be negative.
+inline int ToTwips(int number) {
+  return std::clamp(number, -FurthestTwips, FurthestTwips);
+}
+inline int ToLength(int number) {
+  return std::clamp(number, 0, FurthestTwips);
+}
+
+}  // namespace Parlino::RichText

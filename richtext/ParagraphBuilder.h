@@ -1,0 +1,42 @@
+// Gathers the text of one paragraph after the other.
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "richtext/Format.h"
+#include "richtext/HeaderTables.h"
+#include "richtext/RichText.h"
+
+namespace Parlino::RichText {
+
+class ParagraphBuilder {
+ public:
+  explicit ParagraphBuilder(const HeaderTables& tables) : tables_(tables) {}
+
+  // Appends a character of that look; hidden ones are left out.
+  void Add(char32_t character, const Look& look);
+  void AddToMarker(char32_t character);
+
+  // The paragraph so far; what follows belongs to the next one.
+  Paragraph Take(const Layout& layout);
+
+  [[nodiscard]] bool IsEmpty() const { return paragraph_.Runs.empty() && marker_.empty(); }
+  // Whether more text was given than a document holds; what was too much is not in it.
+  [[nodiscard]] bool IsFull() const { return isFull_; }
+
+ private:
+  bool CountCharacter();
+  bool BeginRun(const Look& look);
+  [[nodiscard]] Style StyleOf(const Look& look) const;
+
+  const HeaderTables& tables_;
+  Paragraph paragraph_;
+  std::string marker_;
+  Look lastLook_;
+  std::size_t characters_ = 0;
+  std::size_t runs_ = 0;
+  bool isFull_ = false;
+};
+
+}  // namespace Parlino::RichText
