@@ -45,6 +45,8 @@ void SetUpGame(Platform& platform) {
   ResetGameState();
   OpenTable();
   MFormDeluxe = {};
+  frmHelp = {};
+  frmAbout = {};
   BindEvents();
 }
 

@@ -5,8 +5,8 @@ namespace Parlino {
 
 class Platform;
 
-// Makes a fresh game on the platform: state, table and dialog as at the start of the program, and
-// every event bound to its handler.
+// Makes a fresh game on the platform: state, table and other windows as at the start of the
+// program, and every event bound to its handler.
 void SetUpGame(Platform& platform);
 
 // Loads the table window and processes events until the program ends. Returns the exit status.

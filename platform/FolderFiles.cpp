@@ -15,9 +15,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// No record of ours comes near this; a larger file is not read into memory to find that out.
-constexpr std::size_t LargestFile = 1 << 20;
-
 [[noreturn]] void RaiseSystemError(std::string_view fileName, std::string_view action, int number) {
   throw GameError(number, std::string(fileName)
                               .append(" cannot be ")
@@ -60,7 +57,7 @@ void FlushFolder(const fs::path& folder) {
 
 }  // namespace
 
-std::string FolderFiles::Read(std::string_view fileName) const {
+std::string FolderFiles::Read(std::string_view fileName, std::size_t atMost) const {
   const fs::path path = folder_ / fileName;
   const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
   if (!file.IsOpen()) RaiseSystemError(fileName, "read", errno);
@@ -72,7 +69,7 @@ std::string FolderFiles::Read(std::string_view fileName) const {
     if (count < 0) RaiseSystemError(fileName, "read", errno);
     if (count == 0) return content;
     content.append(part.data(), static_cast<std::size_t>(count));
-    if (content.size() > LargestFile) RaiseSystemError(fileName, "read", EFBIG);
+    if (content.size() > atMost) RaiseSystemError(fileName, "read", EFBIG);
   }
 }
 

@@ -122,4 +122,37 @@ bool HeadlessPlatform::FileExists(std::string_view fileName) {
   return files.contains(fileName);
 }
 
+std::optional<RegistryKey> HeadlessPlatform::OpenRegistryKey(std::uint32_t root,
+                                                             std::string_view name,
+                                                             std::uint32_t rights) {
+  const bool isThere = std::ranges::any_of(
+      registry, [name](const auto& value) { return value.first.first == name; });
+  if (root != RegistryLocalMachine || (rights & ~registryRights) != 0 || !isThere)
+    return std::nullopt;
+  Note("key opened", name);
+  openKeys_.emplace(++lastKey_, name);
+  return lastKey_;
+}
+
+std::optional<RegistryValue> HeadlessPlatform::ReadRegistryValue(RegistryKey key,
+                                                                 std::string_view name,
+                                                                 std::span<char> buffer) {
+  const auto value = registry.find({openKeys_.at(key), std::string(name)});
+  if (value == registry.end() || value->second.bytes.size() > buffer.size()) return std::nullopt;
+  const auto& [type, bytes] = value->second;
+  std::ranges::copy(bytes, buffer.begin());
+  return RegistryValue{type, static_cast<std::uint32_t>(bytes.size())};
+}
+
+void HeadlessPlatform::CloseRegistryKey(RegistryKey key) {
+  Note("key closed", openKeys_.at(key));
+  openKeys_.erase(key);
+}
+
+void HeadlessPlatform::StartProgram(std::string_view path) {
+  if (!files.contains(path))
+    throw GameError(ENOENT, JoinText({path, " cannot be started: No such file or directory"}));
+  Note("started", path);
+}
+
 }  // namespace Parlino

@@ -6,6 +6,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/Platform.h"
@@ -32,8 +33,19 @@ class HeadlessPlatform : public Platform {
   // Sees each plain message box.
   std::function<void(std::string_view text)> onMsgBox = [](std::string_view) {};
 
+  // By the name they are asked for, a plain name or a full path.
   std::map<std::string, std::string, std::less<>> files;
   bool filesCanBeWritten = true;
+  std::string programFolder = "/parlino/";
+
+  // The registry under its root RegistryLocalMachine: its values by key and name, and the rights
+  // with which a key can be opened.
+  struct ScriptedValue {
+    std::uint32_t type;
+    std::string bytes;
+  };
+  std::map<std::pair<std::string, std::string>, ScriptedValue> registry;
+  std::uint32_t registryRights = RegistryFullAccess;
 
   // What was shown and heard, in order, a line each; kept only while `keepsRecord` is set.
   std::vector<std::string> record;
@@ -58,11 +70,22 @@ class HeadlessPlatform : public Platform {
   void ReplaceFile(std::string_view fileName, std::string_view content) override;
   void SetFileAside(std::string_view fileName) override;
   bool FileExists(std::string_view fileName) override;
+  std::string ProgramFolder() override { return programFolder; }
+  std::string ReadDocument(std::string_view fileName) override { return ReadFile(fileName); }
+  std::optional<RegistryKey> OpenRegistryKey(std::uint32_t root, std::string_view name,
+                                             std::uint32_t rights) override;
+  std::optional<RegistryValue> ReadRegistryValue(RegistryKey key, std::string_view name,
+                                                 std::span<char> buffer) override;
+  void CloseRegistryKey(RegistryKey key) override;
+  // A program can be started when it is one of the files.
+  void StartProgram(std::string_view path) override;
 
  private:
   void Note(std::string_view kind, std::string_view text);
 
   int idleCalls_ = 0;
+  std::map<RegistryKey, std::string> openKeys_;
+  RegistryKey lastKey_ = 0;
 };
 
 }  // namespace Parlino

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -17,6 +19,18 @@ enum class WindowName { frmAbout, MFormDeluxe, FrmMain, frmHelp };
 struct ScreenSize {
   int width;   // twips
   int height;  // twips
+};
+
+// The registry of the operating system, in its own numbers.
+inline constexpr std::uint32_t RegistryLocalMachine = 0x80000002;  // a root
+inline constexpr std::uint32_t RegistryFullAccess = 0xF003F;       // rights to a key
+inline constexpr std::uint32_t RegistryString = 1;                 // the type of a value
+
+using RegistryKey = std::uintptr_t;
+
+struct RegistryValue {
+  std::uint32_t type;
+  std::uint32_t length;  // bytes of the buffer that the value fills
 };
 
 class Platform {
@@ -53,15 +67,38 @@ class Platform {
   // Closes a window for good, without a question; a window that was never shown is passed over.
   virtual void CloseWindow(WindowName window) = 0;
 
-  // Files of the program's folder, by name. Failures raise a GameError whose number is the
-  // system's and whose description names the file.
+  // The full path of the program's folder, with the separator of the platform at its end.
+  virtual std::string ProgramFolder() = 0;
+
+  // Files: a plain name is one of the program's folder, a full path is taken as it stands. Failures
+  // raise a GameError whose number is the system's and whose description names the file.
   virtual std::string ReadFile(std::string_view fileName) = 0;
+  // The same for a file that may be much longer than a record.
+  virtual std::string ReadDocument(std::string_view fileName) = 0;
   // Replaces the file whole or leaves it as it was.
   virtual void ReplaceFile(std::string_view fileName, std::string_view content) = 0;
   // Renames the file so that nothing overwrites it: ".bad" is added, and a number where that name
   // is taken.
   virtual void SetFileAside(std::string_view fileName) = 0;
   virtual bool FileExists(std::string_view fileName) = 0;
+
+  // A key that is opened must be closed. A platform without a registry opens none.
+  virtual std::optional<RegistryKey> OpenRegistryKey(std::uint32_t /*root*/,
+                                                     std::string_view /*name*/,
+                                                     std::uint32_t /*rights*/) {
+    return std::nullopt;
+  }
+  // Nothing when there is no such value or it is longer than the buffer.
+  virtual std::optional<RegistryValue> ReadRegistryValue(RegistryKey /*key*/,
+                                                         std::string_view /*name*/,
+                                                         std::span<char> /*buffer*/) {
+    return std::nullopt;
+  }
+  virtual void CloseRegistryKey(RegistryKey /*key*/) {}
+
+  // Starts a program in a normal window with the focus and does not wait for it. Raises a GameError
+  // when it cannot be started.
+  virtual void StartProgram(std::string_view path) = 0;
 };
 
 // The platform in use. Set once, before anything else of the game runs.

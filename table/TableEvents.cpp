@@ -1,5 +1,6 @@
 #include "table/TableEvents.h"
 
+#include "table/HelpAndAbout.h"
 #include "table/MessageDialog.h"
 #include "table/TableView.h"
 
@@ -20,6 +21,13 @@ bool RaiseOn(const Control& control, TableEvents::IndexHandler handler, int inde
 
 bool TakesAnswer(int button) {
   return MFormDeluxe.Visible && MFormDeluxe.Faces[button].Visible;
+}
+
+// The dialog stands before the help and the about window as it does before the table.
+bool RaiseIn(bool isWindowOpen, void (*handler)()) {
+  if (!isWindowOpen || !TableTakesInput()) return false;
+  handler();
+  return true;
 }
 
 }  // namespace
@@ -62,6 +70,18 @@ bool ClickAnswer(int button) {
   if (!TakesAnswer(button)) return false;
   Label1_Click(ToInteger(button));
   return true;
+}
+
+bool CloseHelp() {
+  return RaiseIn(frmHelp.Visible, btnClose_Click);
+}
+
+bool CloseAbout() {
+  return RaiseIn(frmAbout.Loaded, cmdOK_Click);
+}
+
+bool ClickSysInfo() {
+  return RaiseIn(frmAbout.Loaded, cmdSysInfo_Click);
 }
 
 }  // namespace Parlino

@@ -53,5 +53,8 @@ bool ChooseMenu(MenuItem item);
 bool CloseTableWindow();  // by its close box
 bool PressAnswer(int button);
 bool ClickAnswer(int button);
+bool CloseHelp();   // by its button, its close box or the keyboard
+bool CloseAbout();  // likewise
+bool ClickSysInfo();
 
 }  // namespace Parlino

@@ -5,9 +5,11 @@
 
 #include <QColor>
 #include <QFont>
+#include <QPalette>
 #include <QPoint>
 #include <QRect>
 #include <QString>
+#include <QStringList>
 
 #include "table/TableView.h"
 
@@ -47,9 +49,16 @@ inline constexpr QColor LightGrey(224, 224, 224);
 inline constexpr QColor Peach(255, 224, 192);
 inline constexpr QColor White(255, 255, 255);
 inline constexpr QColor Black(0, 0, 0);
+inline constexpr QColor LightGreen(192, 255, 192);
+inline constexpr QColor Grey(192, 192, 192);
+inline constexpr QColor Paper(255, 253, 246);
+inline constexpr QColor Ink(32, 28, 24);
 inline constexpr QColor EdgeLight(240, 240, 240);
 inline constexpr QColor EdgeGrey(128, 128, 128);
 }  // namespace Colours
+
+// Dark text on light grounds, whatever the colours of the desktop.
+QPalette LightColours(const QColor& window, const QColor& button = Colours::LightGrey);
 
 enum class Slope { Upright, Italic };
 enum class Rule { None, Underline };
@@ -57,6 +66,16 @@ enum class Rule { None, Underline };
 // Bold Times New Roman. A point is counted as 96/72 pixels, so that the layout is the same on every
 // screen.
 QFont TimesBold(double points, Slope slope = Slope::Upright, Rule rule = Rule::None);
+
+// The families of running text, the first one there is counting.
+const QStringList& TextFamilies();
+
+// The size of letters of so many points, in pixels; never so small or large that nothing could be
+// read.
+int TextPixels(double points, double zoom = 1);
+
+// Running text of so many points.
+QFont TextFont(double points);
 
 // The font of every control that names none of its own.
 inline QFont WindowFont() {

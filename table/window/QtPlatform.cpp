@@ -1,6 +1,7 @@
 #include "table/window/QtPlatform.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <chrono>
 
 #include <QApplication>
@@ -8,6 +9,7 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QProcess>
 #include <QScreen>
 #include <QTime>
 
@@ -26,7 +28,7 @@ void CloseMenus() {
 }  // namespace
 
 QtPlatform::QtPlatform(const std::filesystem::path& folder)
-    : files_(folder), sound_(folder), table_(pending_) {}
+    : files_(folder), sound_(folder), table_(pending_), helpAndAbout_(pending_, table_) {}
 
 void QtPlatform::ProcessEvents(std::uint32_t atMostMs) {
   ShowModel(atMostMs);
@@ -37,6 +39,7 @@ void QtPlatform::ProcessEvents(std::uint32_t atMostMs) {
 
 void QtPlatform::ShowModel(std::uint32_t pauseMs) {
   table_.ShowModel(Ticks(), pauseMs);
+  helpAndAbout_.ShowModel();
   if (message_ == nullptr && MFormDeluxe.Visible)
     message_ = std::make_unique<MessageWindow>(pending_, &table_);
   if (message_ == nullptr) return;
@@ -122,6 +125,7 @@ ScreenSize QtPlatform::Screen() {
 void QtPlatform::CloseWindow(WindowName window) {
   if (window == WindowName::FrmMain) table_.hide();
   if (window == WindowName::MFormDeluxe) message_.reset();
+  helpAndAbout_.Close(window);
 }
 
 std::string QtPlatform::ReadFile(std::string_view fileName) {
@@ -138,6 +142,19 @@ void QtPlatform::SetFileAside(std::string_view fileName) {
 
 bool QtPlatform::FileExists(std::string_view fileName) {
   return files_.Exists(fileName);
+}
+
+std::string QtPlatform::ProgramFolder() {
+  return (std::filesystem::absolute(files_.Folder()) / "").string();
+}
+
+std::string QtPlatform::ReadDocument(std::string_view fileName) {
+  return files_.Read(fileName, LongestDocument);
+}
+
+void QtPlatform::StartProgram(std::string_view path) {
+  if (!QProcess::startDetached(ToText(path), {}))
+    throw GameError(ENOENT, JoinText({path, " cannot be started"}));
 }
 
 }  // namespace Parlino

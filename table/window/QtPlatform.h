@@ -9,6 +9,7 @@
 #include "platform/FolderFiles.h"
 #include "platform/Platform.h"
 #include "table/window/EventPump.h"
+#include "table/window/HelpAndAboutWindows.h"
 #include "table/window/MessageWindow.h"
 #include "table/window/PendingEvents.h"
 #include "table/window/Sound.h"
@@ -20,7 +21,8 @@ namespace Parlino {
 
 class QtPlatform : public Platform {
  public:
-  // `folder` holds the data files and the sounds. The application object must be there.
+  // `folder` holds the data files, the help document and the sounds. The application object must be
+  // there.
   explicit QtPlatform(const std::filesystem::path& folder);
 
   void ProcessEvents(std::uint32_t atMostMs) override;
@@ -37,6 +39,9 @@ class QtPlatform : public Platform {
   void ReplaceFile(std::string_view fileName, std::string_view content) override;
   void SetFileAside(std::string_view fileName) override;
   bool FileExists(std::string_view fileName) override;
+  std::string ProgramFolder() override;
+  std::string ReadDocument(std::string_view fileName) override;
+  void StartProgram(std::string_view path) override;
 
   // How the cards of the table move.
   Glides& Motion() { return table_.Motion(); }
@@ -57,6 +62,7 @@ class QtPlatform : public Platform {
   PendingEvents pending_;
   TableWindow table_;
   std::unique_ptr<MessageWindow> message_;  // made when the first message comes
+  HelpAndAboutWindows helpAndAbout_;
 };
 
 }  // namespace Parlino

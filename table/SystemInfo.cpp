@@ -1,0 +1,62 @@
+#include "table/SystemInfo.h"
+
+#include <array>
+#include <exception>
+#include <string_view>
+
+#include "platform/Platform.h"
+#include "table/ErrorReport.h"
+#include "table/TableView.h"
+
+namespace Parlino {
+namespace {
+
+constexpr std::size_t LongestValue = 1024;
+
+// The full path of the tool, or empty text where there is none.
+std::string FindTool() {
+  std::string found;
+  if (GetKeyValue(RegistryLocalMachine, "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", "PATH", found))
+    return found;
+  if (!GetKeyValue(RegistryLocalMachine, "SOFTWARE\\Microsoft\\Shared Tools Location", "MSINFO",
+                   found))
+    return {};
+  std::string path = JoinText({found, "\\MSINFO32.EXE"});
+  return ThePlatform().FileExists(path) ? path : std::string();
+}
+
+bool StartTool() {
+  try {
+    const std::string path = FindTool();
+    if (path.empty()) return false;
+    ThePlatform().StartProgram(path);
+    return true;
+  } catch (const std::exception&) {
+    return false;
+  }
+}
+
+}  // namespace
+
+void StartSysInfo() {
+  if (!StartTool())
+    ThePlatform().MsgBox("System Information Is Unavailable At This Time", ApplicationTitle, false);
+}
+
+bool GetKeyValue(const std::uint32_t& KeyRoot, const std::string& KeyName,
+                 const std::string& SubKeyRef, std::string& KeyVal) {
+  const auto key = ThePlatform().OpenRegistryKey(KeyRoot, KeyName, RegistryFullAccess);
+  std::array<char, LongestValue> buffer{};
+  const auto value = key ? ThePlatform().ReadRegistryValue(*key, SubKeyRef, buffer) : std::nullopt;
+  if (!value) {
+    KeyVal.clear();
+  } else if (value->type == RegistryString) {
+    std::string_view text(buffer.data(), value->length);
+    if (text.ends_with('\0')) text.remove_suffix(1);
+    KeyVal = text;
+  }
+  if (key) ThePlatform().CloseRegistryKey(*key);
+  return value.has_value();
+}
+
+}  // namespace Parlino

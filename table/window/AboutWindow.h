@@ -1,0 +1,34 @@
+// The about window. It is made when it is loaded and gone when it is unloaded.
+#pragma once
+
+#include <QDialog>
+
+#include "table/HelpAndAbout.h"
+
+namespace Parlino {
+
+class BorderedLabel;
+class PendingEvents;
+
+class AboutWindow : public QDialog {
+ public:
+  AboutWindow(PendingEvents& pending, QWidget* table);
+
+  void ShowModel(const AboutWindowView& about);
+
+  // Esc and the close box are the OK button.
+  void reject() override;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  PendingEvents& pending_;
+  BorderedLabel* title_;
+  BorderedLabel* version_;
+  BorderedLabel* description_;
+  BorderedLabel* disclaimer_;
+  int showings_ = 0;  // as shown
+};
+
+}  // namespace Parlino

@@ -1,0 +1,139 @@
+// Formatted text as the help window lays it out.
+#include <gtest/gtest.h>
+#include <limits>
+
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextTable>
+
+#include "table/window/TextDocument.h"
+
+namespace Parlino {
+namespace {
+
+using RichText::Cell;
+using RichText::Paragraph;
+using RichText::Table;
+
+Paragraph TextOf(const char* text, const RichText::Style& look = {}) {
+  Paragraph paragraph;
+  paragraph.Runs.push_back({look, text});
+  return paragraph;
+}
+
+Cell CellOf(int rightEdge, const char* text) {
+  Cell cell;
+  cell.RightEdge = rightEdge;
+  cell.Paragraphs.push_back(TextOf(text));
+  return cell;
+}
+
+QStringList LinesOf(const QTextDocument& document) {
+  return document.toPlainText().split('\n');
+}
+
+TEST(TextDocument, ParagraphsKeepTheirTextAndTheirLook) {
+  RichText::Style look;
+  look.HalfPoints = 36;
+  look.Bold = true;
+  look.Ink = 0xC00000;
+  Paragraph heading = TextOf("Scores", look);
+  heading.Heading = 2;
+  heading.Aligned = RichText::Alignment::Centre;
+  Paragraph text = TextOf("one\ntwo");
+  text.LeftIndent = 600;
+  text.FirstIndent = 300;
+  QTextDocument target;
+  WriteDocument({.Blocks = {heading, text}, .IsCut = true}, {.zoom = 2}, target);
+  EXPECT_EQ(LinesOf(target).mid(0, 3), (QStringList{"Scores", "one", "two"}));
+  EXPECT_TRUE(LinesOf(target).last().startsWith("The document goes on"));
+  EXPECT_EQ(target.blockCount(), 3) << "a line break is no new paragraph";
+  const QTextBlock first = target.firstBlock();
+  const QTextCharFormat format = first.begin().fragment().charFormat();
+  EXPECT_EQ(format.font().pixelSize(), 48);  // 18 points, twice as large
+  EXPECT_TRUE(format.font().bold());
+  EXPECT_EQ(format.foreground().color(), QColor(0xC0, 0, 0));
+  EXPECT_EQ(first.blockFormat().headingLevel(), 2);
+  EXPECT_EQ(first.blockFormat().alignment(), Qt::AlignHCenter);
+  EXPECT_EQ(first.next().blockFormat().leftMargin(), 80);
+}
+
+TEST(TextDocument, MarkersHangBesideTheText) {
+  const struct {
+    int left;
+    int first;
+    std::vector<int> tabs;
+    double margin;
+    double indent;
+    std::vector<double> stops;  // from where the line begins
+  } examples[] = {
+      {720, -360, {}, 48, -24, {24}},
+      {720, -360, {360, 720, 1440}, 48, -24, {24, 72}},
+      {0, 0, {}, 20, -20, {20}},       // a document that leaves no room for them
+      {300, -900, {}, 20, -20, {20}},  // or wants them outside the page
+  };
+  for (const auto& example : examples) {
+    Paragraph point = TextOf("text");
+    point.Marker = "\u2022";
+    point.LeftIndent = example.left;
+    point.FirstIndent = example.first;
+    point.Tabs = example.tabs;
+    QTextDocument target;
+    WriteDocument({.Blocks = {point}}, {}, target);
+    EXPECT_EQ(target.toPlainText(), "\u2022\ttext");
+    const QTextBlockFormat format = target.firstBlock().blockFormat();
+    EXPECT_EQ(format.leftMargin(), example.margin);
+    EXPECT_EQ(format.textIndent(), example.indent);
+    std::vector<double> stops;
+    for (const QTextOption::Tab& tab : format.tabPositions()) stops.push_back(tab.position);
+    EXPECT_EQ(stops, example.stops);
+  }
+}
+
+// The rows of a table need not have the same cells, nor edges that are quite the same.
+TEST(TextDocument, CellsSpanTheColumnsOfOtherRows) {
+  Table table;
+  table.HasBorders = true;
+  table.Rows.push_back({0, {CellOf(1000, "a"), CellOf(2000, "b"), CellOf(4000, "c")}});
+  table.Rows.push_back({0, {CellOf(2020, "wide"), CellOf(3990, "d")}});
+  table.Rows.push_back({0, {CellOf(1000, "whole")}});
+  table.Rows[1].Cells[0].Ground = 0x00FF00;
+  QTextDocument target;
+  WriteDocument({.Blocks = {TextOf("before"), table, TextOf("after")}}, {}, target);
+  const auto* grid = qobject_cast<QTextTable*>(target.rootFrame()->childFrames().value(0));
+  ASSERT_NE(grid, nullptr);
+  EXPECT_EQ(grid->columns(), 3);
+  EXPECT_EQ(grid->cellAt(1, 0).columnSpan(), 2);
+  EXPECT_EQ(grid->cellAt(2, 0).columnSpan(), 3);
+  EXPECT_EQ(grid->cellAt(1, 0).format().background().color(), QColor(0, 255, 0));
+  EXPECT_EQ(grid->cellAt(1, 2).firstCursorPosition().block().text(), "d");
+  EXPECT_NEAR(grid->format().columnWidthConstraints().at(2).rawValue(), 50, 1);
+  EXPECT_EQ(LinesOf(target).first(), "before");
+  EXPECT_EQ(LinesOf(target).last(), "after");
+}
+
+TEST(TextDocument, NothingInTheSourceBreaksTheStructureOrCostsWithoutEnd) {
+  constexpr int most = std::numeric_limits<int>::max();
+  constexpr int least = std::numeric_limits<int>::min();
+  Paragraph odd = TextOf("a\u2029b\uFDD0c\uFFFCd\re");
+  odd.LeftIndent = odd.FirstIndent = odd.RightIndent = odd.SpaceBefore = most;
+  odd.Tabs = {least, most};
+  odd.Runs[0].Look.HalfPoints = most;
+  Paragraph outside = TextOf("outside");
+  outside.LeftIndent = outside.FirstIndent = outside.SpaceAfter = least;
+  outside.Runs[0].Look.HalfPoints = least;
+  Table ragged;
+  ragged.Rows.push_back({least, {CellOf(most, "x"), CellOf(least, "y"), CellOf(0, "z")}});
+  ragged.Rows.emplace_back();
+  Table huge;  // every row with an edge of its own: a grid would have a million places
+  for (int row = 0; row < 1000; ++row) huge.Rows.push_back({0, {CellOf(100 * row, "cell")}});
+  QTextDocument target;
+  WriteDocument({.Blocks = {odd, outside, Table(), ragged, ragged, huge}}, {}, target);
+  EXPECT_EQ(LinesOf(target).mid(0, 2), (QStringList{"a b c d e", "outside"}));
+  EXPECT_EQ(target.toPlainText().count("cell"), 1000);
+  EXPECT_GE(target.firstBlock().next().blockFormat().leftMargin(), 0);
+  EXPECT_EQ(target.rootFrame()->childFrames().size(), 2);
+}
+
+}  // namespace
+}  // namespace Parlino
