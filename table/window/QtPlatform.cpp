@@ -12,6 +12,7 @@
 #include <QProcess>
 #include <QScreen>
 #include <QTime>
+#include <QWindow>
 
 #include "engine/Errors.h"
 #include "table/window/Design.h"
@@ -23,6 +24,12 @@ namespace {
 // An open menu would keep the mouse and the keys from the box in front of it.
 void CloseMenus() {
   while (QWidget* menu = QApplication::activePopupWidget()) menu->close();
+}
+
+// The window that was active, be it the table or another, gets the keys again after the box.
+void PutBefore(const QWidget* window, QWidget& box) {
+  box.winId();  // makes the box a window of the desktop, which is told
+  if (window != nullptr) box.windowHandle()->setTransientParent(window->windowHandle());
 }
 
 }  // namespace
@@ -77,6 +84,7 @@ void QtPlatform::StartSound(std::string_view fileName) {
 void QtPlatform::ShowAndWait(QDialog& box) {
   CloseMenus();
   box.setWindowModality(Qt::ApplicationModal);
+  PutBefore(QApplication::activeWindow(), box);
   box.show();
   while (box.isVisible()) {
     ShowModel(Forever);
