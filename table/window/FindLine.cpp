@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QTextEdit>
 #include <QToolButton>
 
@@ -94,15 +95,24 @@ void FindLine::Find(QTextDocument::FindFlags direction) {
   if (!isVisible()) return Open();
   const QString words = words_->text();
   if (words.isEmpty()) return Say("", true);
-  if (text_.find(words, direction)) return Say("", true);
+  if (text_.find(words, direction)) return ShowFound("");
   const bool isBackward = direction.testFlag(QTextDocument::FindBackward);
   const QTextCursor before = text_.textCursor();
   text_.moveCursor(isBackward ? QTextCursor::End : QTextCursor::Start);
   if (text_.find(words, direction))
-    return Say(isBackward ? "Top reached, went on at the end" : "End reached, went on at the top",
-               true);
+    return ShowFound(isBackward ? "Top reached, went on at the end"
+                                : "End reached, went on at the top");
   text_.setTextCursor(before);
   Say("Nothing found", false);
+}
+
+// What was found is seen with what stands above and below it.
+void FindLine::ShowFound(const char* note) {
+  QScrollBar& bar = *text_.verticalScrollBar();
+  const int height = text_.viewport()->height();
+  const int top = text_.cursorRect().top();
+  if (top < height / 6 || top > height * 2 / 3) bar.setValue(bar.value() + top - height / 3);
+  Say(note, true);
 }
 
 void FindLine::Say(const char* note, bool isFound) {

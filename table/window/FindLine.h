@@ -35,6 +35,7 @@ class FindLine : public QWidget {
                  void (FindLine::*act)());
   void FindWhileTyping();
   void Find(QTextDocument::FindFlags direction);
+  void ShowFound(const char* note);
   void Say(const char* note, bool isFound);
 
   QTextEdit& text_;

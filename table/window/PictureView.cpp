@@ -72,7 +72,7 @@ TrickBack::TrickBack(QWidget* parent) : QWidget(parent) {
 void TrickBack::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), Colours::Navy);
-  DrawEdges(painter, rect(), Colours::EdgeGrey);
+  DrawEdges(painter, rect(), Colours::Black);
   painter.drawPixmap(2, 2, SmallBack(devicePixelRatioF()));
 }
 

@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <chrono>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
 #include <QInputDialog>
@@ -83,6 +84,7 @@ void QtPlatform::StartSound(std::string_view fileName) {
 // What was clicked before the box opened was meant for the table as it was; it is dropped.
 void QtPlatform::ShowAndWait(QDialog& box) {
   CloseMenus();
+  for (QAbstractButton* button : box.findChildren<QAbstractButton*>()) button->setIcon({});
   box.setWindowModality(Qt::ApplicationModal);
   PutBefore(QApplication::activeWindow(), box);
   box.show();

@@ -125,7 +125,7 @@ void WriteParagraph(const Paragraph& paragraph, double zoom, QTextCursor& cursor
   cursor.mergeBlockCharFormat(CharFormat(first, zoom));
   if (!paragraph.Marker.empty()) {
     Style marker = first;
-    marker.Underline = false;
+    marker.Bold = marker.Underline = false;
     cursor.insertText(ToParagraphText(paragraph.Marker + "\t"), CharFormat(marker, zoom));
   }
   for (const RichText::Run& run : paragraph.Runs)
