@@ -53,7 +53,7 @@ Drawing ComposeIndex(const std::filesystem::path& sources, const Suit& suit, int
 
 // Nine and ten pips stand closer together, so they are a little smaller.
 Drawing ComposePips(int value) {
-  const double scale = value < 9 ? 1.4 : 1.28;
+  const double scale = value < 9 ? 1.4 : 1.16;
   Drawing pips;
   for (const Spot spot : PlacePips(value)) pips += Use("suit", MoveTo(spot, scale, IsTurned(spot)));
   return pips;

@@ -3,7 +3,12 @@
 namespace Parlino {
 namespace {
 
-constexpr double MiddleX = 35.5, MiddleY = 48, ToTheSide = 10;
+constexpr double MiddleX = 35.5, MiddleY = 48;
+
+// The columns of a nine and a ten give way to their middle pips.
+double ToTheSide(int value) {
+  return value < 9 ? 10 : 11;
+}
 
 std::vector<double> PlaceSideRows(int value) {
   switch (value) {
@@ -47,8 +52,8 @@ std::vector<double> PlaceMiddleRows(int value) {
 std::vector<Spot> PlacePips(int value) {
   std::vector<Spot> spots;
   for (const double y : PlaceSideRows(value)) {
-    spots.push_back({MiddleX - ToTheSide, y});
-    spots.push_back({MiddleX + ToTheSide, y});
+    spots.push_back({MiddleX - ToTheSide(value), y});
+    spots.push_back({MiddleX + ToTheSide(value), y});
   }
   for (const double y : PlaceMiddleRows(value)) spots.push_back({MiddleX, y});
   return spots;

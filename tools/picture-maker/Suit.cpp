@@ -10,8 +10,8 @@ namespace {
 // The two reds and the two blacks differ a little in tone as well: one leans to orange,
 // one to green, so a glance at a colour is already half the answer.
 constexpr std::array Suits{
-    Suit{"diamonds", "#e0240f", "#fff3d2"},
-    Suit{"clubs", "#0d3a22", "#e6f3dc"},
+    Suit{"diamonds", "#df340a", "#fff3d2"},
+    Suit{"clubs", "#0b5a34", "#e6f3dc"},
     Suit{"hearts", "#c20a2c", "#ffe6e4"},
     Suit{"spades", "#0b0b18", "#e2e8f8"},
 };
