@@ -59,8 +59,13 @@ void FlushFolder(const fs::path& folder) {
 
 std::string FolderFiles::Read(std::string_view fileName, std::size_t atMost) const {
   const fs::path path = folder_ / fileName;
-  const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+  // Without waiting: there may be a pipe of that name that nobody writes into.
+  const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
   if (!file.IsOpen()) RaiseSystemError(fileName, "read", errno);
+  struct stat kind {};
+  if (::fstat(file.Number(), &kind) != 0) RaiseSystemError(fileName, "read", errno);
+  if (S_ISDIR(kind.st_mode)) RaiseSystemError(fileName, "read", EISDIR);
+  if (!S_ISREG(kind.st_mode)) RaiseSystemError(fileName, "read", EINVAL);
   std::string content;
   std::array<char, 4096> part;
   while (true) {

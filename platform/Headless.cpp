@@ -137,6 +137,7 @@ std::optional<RegistryKey> HeadlessPlatform::OpenRegistryKey(std::uint32_t root,
 std::optional<RegistryValue> HeadlessPlatform::ReadRegistryValue(RegistryKey key,
                                                                  std::string_view name,
                                                                  std::span<char> buffer) {
+  if (registryRaises) throw GameError(EIO, "The registry cannot be read");
   const auto value = registry.find({openKeys_.at(key), std::string(name)});
   if (value == registry.end() || value->second.bytes.size() > buffer.size()) return std::nullopt;
   const auto& [type, bytes] = value->second;

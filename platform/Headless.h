@@ -46,6 +46,7 @@ class HeadlessPlatform : public Platform {
   };
   std::map<std::pair<std::string, std::string>, ScriptedValue> registry;
   std::uint32_t registryRights = RegistryFullAccess;
+  bool registryRaises = false;  // when a value is read
 
   // What was shown and heard, in order, a line each; kept only while `keepsRecord` is set.
   std::vector<std::string> record;

@@ -10,6 +10,11 @@ void DocumentBuilder::ChangePlan(const ControlWord& word, std::optional<int> num
   row_.ChangePlan(word, number);
 }
 
+void DocumentBuilder::Add(char32_t character, const Look& look, const Layout& layout) {
+  if (text_.IsLong()) EndParagraph(layout);
+  text_.Add(character, look);
+}
+
 std::optional<Paragraph> DocumentBuilder::TakeParagraph(const Layout& layout) {
   if (paragraphs_ == MostParagraphs) isFull_ = true;
   if (isFull_) return std::nullopt;

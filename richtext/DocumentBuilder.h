@@ -18,8 +18,9 @@ class DocumentBuilder {
   // Looks fonts, colours and styles up in `tables`, which must outlive it.
   explicit DocumentBuilder(const HeaderTables& tables) : text_(tables), row_(tables) {}
 
-  // Text of the paragraph that is being built, and of the bullet or number in front of it.
-  void Add(char32_t character, const Look& look) { text_.Add(character, look); }
+  // Text of the paragraph that is being built, which goes on in a new one when it has become too
+  // long, and of the bullet or number in front of it.
+  void Add(char32_t character, const Look& look, const Layout& layout);
   void AddToMarker(char32_t character) { text_.AddToMarker(character); }
   void ChangePlan(const ControlWord& word, std::optional<int> number);
 
@@ -27,6 +28,9 @@ class DocumentBuilder {
   void EndParagraph(const Layout& layout);
   void EndCell(const Layout& layout);
   void EndRow(const Layout& layout);
+
+  // Whether the paragraph that is being built has any text.
+  [[nodiscard]] bool HasText() const { return !text_.IsEmpty(); }
 
   // Whether the document is as large as any may become; what else is added may be lost.
   [[nodiscard]] bool IsFull() const { return isFull_ || text_.IsFull(); }

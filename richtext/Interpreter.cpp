@@ -109,6 +109,8 @@ void Interpreter::ObeyInBody(const ControlWord& word, std::optional<int> number)
       return tables_.SetDefaultFont(number.value_or(0));
     case Meaning::EndParagraph:
       return EndParagraph();
+    case Meaning::NewPage:
+      return builder_.HasText() ? EndParagraph() : void();
     case Meaning::EndCell:
       return builder_.EndCell(state_.Lines);
     case Meaning::EndRow:
@@ -191,7 +193,7 @@ void Interpreter::Put(char32_t character) {
   }
   switch (state_.Into) {
     case Destination::Body:
-      return builder_.Add(character, state_.Letters);
+      return builder_.Add(character, state_.Letters, state_.Lines);
     case Destination::Marker:
       return builder_.AddToMarker(character);
     default:

@@ -12,6 +12,11 @@ inline constexpr std::size_t MostCharacters = 2'000'000;
 inline constexpr std::size_t MostRuns = 200'000;
 inline constexpr std::size_t MostParagraphs = 50'000;  // those in cells counted too
 
+// A paragraph that passes one of these goes on in a new one: toolkits take time with the square of
+// a paragraph's length.
+inline constexpr std::size_t MostCharactersInParagraph = 10'000;
+inline constexpr std::size_t MostRunsInParagraph = 1'000;
+
 // What is beyond these is passed over.
 inline constexpr std::size_t MostColumns = 64;
 inline constexpr std::size_t MostTabs = 32;
@@ -20,12 +25,17 @@ inline constexpr std::size_t MostNameCharacters = 64;
 inline constexpr std::size_t MostNestedGroups = 256;
 
 inline constexpr int FurthestTwips = 31'680;  // 22 inches
+inline constexpr int FurthestEdge =
+    1'000'000;  // of a cell; writers stretch tables far off the page
 inline constexpr int SmallestHalfPoints = 2;
 inline constexpr int LargestHalfPoints = 800;
 
-// A distance to either side, and one that cannot be negative.
+// A distance to either side, the edge of a cell, and a distance that cannot be negative.
 inline int ToTwips(int number) {
   return std::clamp(number, -FurthestTwips, FurthestTwips);
+}
+inline int ToEdge(int number) {
+  return std::clamp(number, -FurthestEdge, FurthestEdge);
 }
 inline int ToLength(int number) {
   return std::clamp(number, 0, FurthestTwips);

@@ -40,6 +40,12 @@ void ParagraphBuilder::Add(char32_t character, const Look& look) {
   if (paragraph_.Runs.empty() || look != lastLook_)
     if (!BeginRun(look)) return;
   AppendUtf8(paragraph_.Runs.back().Text, character);
+  ++charactersOfParagraph_;
+}
+
+bool ParagraphBuilder::IsLong() const {
+  return charactersOfParagraph_ >= MostCharactersInParagraph ||
+         paragraph_.Runs.size() >= MostRunsInParagraph;
 }
 
 // Looks that differ in numbers only go on in the same run.
@@ -68,6 +74,7 @@ Paragraph ParagraphBuilder::Take(const Layout& layout) {
   Paragraph taken = std::exchange(paragraph_, {});
   taken.Marker = TrimMarker(marker_);
   marker_.clear();
+  charactersOfParagraph_ = 0;
   taken.Aligned = layout.Aligned;
   taken.LeftIndent = layout.LeftIndent;
   taken.RightIndent = layout.RightIndent;

@@ -22,6 +22,8 @@ class ParagraphBuilder {
   Paragraph Take(const Layout& layout);
 
   [[nodiscard]] bool IsEmpty() const { return paragraph_.Runs.empty() && marker_.empty(); }
+  // Whether the paragraph is as long as one may become; the next character belongs to a new one.
+  [[nodiscard]] bool IsLong() const;
   // Whether more text was given than a document holds; what was too much is not in it.
   [[nodiscard]] bool IsFull() const { return isFull_; }
 
@@ -34,6 +36,7 @@ class ParagraphBuilder {
   Paragraph paragraph_;
   std::string marker_;
   Look lastLook_;
+  std::size_t charactersOfParagraph_ = 0;
   std::size_t characters_ = 0;
   std::size_t runs_ = 0;
   bool isFull_ = false;

@@ -35,7 +35,7 @@ void RowBuilder::ChangePlan(const ControlWord& word, std::optional<int> number) 
       leftEdge_ = ToTwips(number.value_or(0));
       break;
     case Meaning::CellEdge:
-      PlanCell(ToTwips(number.value_or(0)));
+      PlanCell(ToEdge(number.value_or(0)));
       break;
     case Meaning::CellGround:
       next_.Ground = tables_.ColourAt(number.value_or(0));
@@ -80,7 +80,7 @@ Row RowBuilder::Take() {
   for (std::size_t column = 0; column < contents_.size(); ++column) {
     const PlannedCell planned = column < plan_.size()
                                     ? plan_[column]
-                                    : PlannedCell{ToTwips(edge + UnplannedWidth), {}, false};
+                                    : PlannedCell{ToEdge(edge + UnplannedWidth), {}, false};
     edge = std::max(edge, planned.RightEdge);
     if (planned.IsMerged && !row.Cells.empty()) {
       row.Cells.back().RightEdge = edge;

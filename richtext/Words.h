@@ -38,6 +38,7 @@ enum class Meaning {
   NoBorder,
   // where something ends
   EndParagraph,
+  NewPage,
   EndCell,
   EndRow,
   // text by name or number

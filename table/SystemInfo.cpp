@@ -2,6 +2,8 @@
 
 #include <array>
 #include <exception>
+#include <optional>
+#include <span>
 #include <string_view>
 
 #include "platform/Platform.h"
@@ -12,6 +14,26 @@ namespace Parlino {
 namespace {
 
 constexpr std::size_t LongestValue = 1024;
+
+// A key of the registry, open as long as this is there, if it could be opened.
+class OpenKey {
+ public:
+  OpenKey(std::uint32_t root, std::string_view name)
+      : key_(ThePlatform().OpenRegistryKey(root, name, RegistryFullAccess)) {}
+  OpenKey(const OpenKey&) = delete;
+  OpenKey& operator=(const OpenKey&) = delete;
+  ~OpenKey() {
+    if (key_) ThePlatform().CloseRegistryKey(*key_);
+  }
+
+  [[nodiscard]] std::optional<RegistryValue> Read(std::string_view name,
+                                                  std::span<char> buffer) const {
+    return key_ ? ThePlatform().ReadRegistryValue(*key_, name, buffer) : std::nullopt;
+  }
+
+ private:
+  std::optional<RegistryKey> key_;
+};
 
 // The full path of the tool, or empty text where there is none.
 std::string FindTool() {
@@ -45,9 +67,9 @@ void StartSysInfo() {
 
 bool GetKeyValue(const std::uint32_t& KeyRoot, const std::string& KeyName,
                  const std::string& SubKeyRef, std::string& KeyVal) {
-  const auto key = ThePlatform().OpenRegistryKey(KeyRoot, KeyName, RegistryFullAccess);
+  const OpenKey key(KeyRoot, KeyName);
   std::array<char, LongestValue> buffer{};
-  const auto value = key ? ThePlatform().ReadRegistryValue(*key, SubKeyRef, buffer) : std::nullopt;
+  const auto value = key.Read(SubKeyRef, buffer);
   if (!value) {
     KeyVal.clear();
   } else if (value->type == RegistryString) {
@@ -55,7 +77,6 @@ bool GetKeyValue(const std::uint32_t& KeyRoot, const std::string& KeyName,
     if (text.ends_with('\0')) text.remove_suffix(1);
     KeyVal = text;
   }
-  if (key) ThePlatform().CloseRegistryKey(*key);
   return value.has_value();
 }
 

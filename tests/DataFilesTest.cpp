@@ -2,6 +2,7 @@
 #include <fstream>
 #include <functional>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <tuple>
 
 #include "engine/StartUp.h"
@@ -241,9 +242,12 @@ TEST(FirstRecords, AreWhatTheProgramIsInstalledWith) {
 
 class FolderFilesTest : public testing::Test {
  protected:
-  FolderFilesTest() : folder_(fs::path(testing::TempDir()) / "parlino-folder-files") {
+  // Each test has a folder of its own: several may run at once.
+  FolderFilesTest()
+      : folder_(fs::path(testing::TempDir()) / "parlino-folder-files" /
+                testing::UnitTest::GetInstance()->current_test_info()->name()) {
     fs::remove_all(folder_);
-    fs::create_directory(folder_);
+    fs::create_directories(folder_);
   }
   ~FolderFilesTest() override { fs::remove_all(folder_); }
   FolderFilesTest(const FolderFilesTest&) = delete;
@@ -278,6 +282,13 @@ TEST_F(FolderFilesTest, NameTheFileAndTheReasonOfAFailure) {
   fs::create_directory(folder_ / "Names2.dat");
   EXPECT_THROW(FolderFiles(folder_).Replace("Names2.dat", "x"), GameError);
   EXPECT_EQ(CountFiles(), 1) << "the temporary file is taken away again";
+}
+
+TEST_F(FolderFilesTest, RefuseWhatIsNoOrdinaryFileWithoutWaitingForIt) {
+  ASSERT_EQ(::mkfifo((folder_ / "pipe").c_str(), S_IRUSR | S_IWUSR), 0);
+  fs::create_directory(folder_ / "folder");
+  for (const char* name : {"pipe", "folder"})
+    EXPECT_THROW(static_cast<void>(FolderFiles(folder_).Read(name)), GameError) << name;
 }
 
 TEST_F(FolderFilesTest, SetAFileAsideWithoutLosingAnOlderOne) {

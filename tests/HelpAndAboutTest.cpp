@@ -133,6 +133,16 @@ TEST(Registry, AKeyThatCannotBeOpenedIsNotClosed) {
   EXPECT_TRUE(game.platform.record.empty());
 }
 
+TEST(Registry, AFailureOfItsOwnClosesTheKeyAndMakesTheToolUnavailable) {
+  HeadlessGame game;
+  game.platform.registry[{ToolKey, "PATH"}] = {RegistryString, "C:\\x"};
+  game.platform.registryRaises = true;
+  StartSysInfo();
+  EXPECT_EQ(
+      game.platform.record,
+      (std::vector<std::string>{"key opened: " + ToolKey, "key closed: " + ToolKey, Unavailable}));
+}
+
 TEST(Registry, TheSystemInformationToolIsFoundOrUnavailable) {
   const struct {
     const char* path;    // listed for the tool; nullptr for none

@@ -17,8 +17,15 @@ constexpr int CloseEdges = 60;     // twips
 constexpr int MostColumns = 60;    // a table with more is none that anybody could read
 constexpr int MostCells = 20'000;  // of the grid, not only those that hold something
 
-int RightEdge(const Cell& cell) {
-  return std::clamp(cell.RightEdge, 0, LongestLength);
+// The right edges of the row's cells, each wide enough to be seen.
+std::vector<int> RightEdges(const Row& row) {
+  std::vector<int> edges;
+  int before = std::max(0, row.LeftEdge);
+  for (const Cell& cell : row.Cells) {
+    before = std::max(cell.RightEdge, before + CloseEdges);
+    edges.push_back(before);
+  }
+  return edges;
 }
 
 int LeftEdge(const Table& table) {
@@ -32,16 +39,16 @@ QTextLength PartOfWidth(double part) {
 }
 
 QTextTableFormat TableFormat(const Table& table, const Page& page, const std::vector<int>& edges) {
-  const int left = LeftEdge(table);
-  const double width = std::max(1.0, LengthInPixels(edges.back() - left, page.zoom));
+  const int left = std::min(LeftEdge(table), edges.front() - CloseEdges);
+  const double width = edges.back() - left;
   QList<QTextLength> columns;
   int before = left;
   for (const int edge : edges) {
-    columns.append(PartOfWidth(LengthInPixels(edge - before, page.zoom) / width));
+    columns.append(PartOfWidth((edge - before) / width));
     before = edge;
   }
   QTextTableFormat format;
-  format.setWidth(PartOfWidth(width / page.textWidth));
+  format.setWidth(PartOfWidth(width * LengthInPixels(1, page.zoom) / page.textWidth));
   format.setColumnWidthConstraints(columns);
   format.setLeftMargin(std::max(0.0, LengthInPixels(left, page.zoom)));
   format.setTopMargin(6 * page.zoom);
@@ -69,20 +76,21 @@ void WriteCell(const Cell& cell, double zoom, QTextTableCell place) {
   place.setFormat(format);
 }
 
-// A cell that runs over several columns takes them all; the last one, those that are left as well.
+// A cell that runs over several columns takes them all, yet leaves one for each cell behind it; the
+// last one takes those that are left as well.
 void WriteRow(const Row& row, int number, const std::vector<int>& edges, double zoom,
               QTextTable& grid) {
-  const int columns = grid.columns();
+  const std::vector<int> rightEdges = RightEdges(row);
   int column = 0;
-  for (const Cell& cell : row.Cells) {
-    if (column == columns) return;
-    int end = column + 1;
+  for (std::size_t place = 0; place < row.Cells.size(); ++place) {
+    const int lastColumn = grid.columns() - static_cast<int>(row.Cells.size() - place - 1);
     const auto covers = [&](int edge) {
-      return edges[static_cast<std::size_t>(edge)] < RightEdge(cell) + CloseEdges;
+      return edges[static_cast<std::size_t>(edge)] < rightEdges[place] + CloseEdges;
     };
-    while (end < columns && (&cell == &row.Cells.back() || covers(end))) ++end;
+    int end = column + 1;
+    while (end < lastColumn && (place + 1 == row.Cells.size() || covers(end))) ++end;
     if (end > column + 1) grid.mergeCells(number, column, 1, end - column);
-    WriteCell(cell, zoom, grid.cellAt(number, column));
+    WriteCell(row.Cells[place], zoom, grid.cellAt(number, column));
     column = end;
   }
 }
@@ -92,7 +100,7 @@ void WriteRow(const Row& row, int number, const std::vector<int>& edges, double 
 std::vector<int> ColumnEdges(const Table& table) {
   std::vector<int> all;
   for (const Row& row : table.Rows)
-    for (const Cell& cell : row.Cells) all.push_back(RightEdge(cell));
+    for (const int edge : RightEdges(row)) all.push_back(edge);
   std::ranges::sort(all);
   std::vector<int> edges;
   for (const int edge : all)

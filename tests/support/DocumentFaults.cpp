@@ -71,7 +71,7 @@ class Inspector {
     InspectTwips(row.LeftEdge);
     int edge = row.LeftEdge;
     for (const Cell& cell : row.Cells) {
-      InspectTwips(cell.RightEdge);
+      Expect(cell.RightEdge <= FurthestEdge, "an edge out of bounds");
       Expect(cell.RightEdge >= edge, "an edge that goes back");
       Expect(!cell.Paragraphs.empty(), "a cell without a paragraph");
       edge = cell.RightEdge;
@@ -91,7 +91,10 @@ class Inspector {
     InspectText(paragraph.Marker);
     bytes_ += paragraph.Tabs.capacity() * sizeof(int) + paragraph.Marker.capacity() +
               paragraph.Runs.capacity() * sizeof(Run);
+    Expect(paragraph.Runs.size() <= MostRunsInParagraph, "a paragraph of too many runs");
+    const std::size_t charactersBefore = characters_;
     for (const Run& run : paragraph.Runs) Inspect(run, &run == paragraph.Runs.data());
+    Expect(characters_ - charactersBefore <= MostCharactersInParagraph, "a paragraph too long");
   }
 
   void Inspect(const Run& run, bool isFirst) {

@@ -112,6 +112,28 @@ TEST(TextDocument, CellsSpanTheColumnsOfOtherRows) {
   EXPECT_EQ(LinesOf(target).last(), "after");
 }
 
+// Word processors stretch a table to ten times the page, and broken files have cells of no width.
+TEST(TextDocument, NoCellOfATableIsLost) {
+  constexpr int edges[][3] = {{21845, 39340, 65534},
+                              {100, 100, 100},
+                              {0, 0, 0},
+                              {-900, 50, 20},
+                              {1'000'000, 1'000'000, 1'000'000}};
+  Table table;
+  QStringList texts;
+  for (const auto& row : edges) {
+    table.Rows.emplace_back();
+    for (const int edge : row) {
+      texts << QString("cell%1").arg(texts.size());
+      table.Rows.back().Cells.push_back(CellOf(edge, texts.last().toUtf8()));
+    }
+  }
+  QTextDocument target;
+  WriteDocument({.Blocks = {table}}, {}, target);
+  for (const QString& text : texts)
+    EXPECT_TRUE(LinesOf(target).contains(text)) << text.toStdString();
+}
+
 TEST(TextDocument, NothingInTheSourceBreaksTheStructureOrCostsWithoutEnd) {
   constexpr int most = std::numeric_limits<int>::max();
   constexpr int least = std::numeric_limits<int>::min();

@@ -77,7 +77,7 @@ void PutOthers(Sheet& sheet) {
 // What the player sees most of the time is a strip of each card, on the ground of the hand's box.
 void PutOverlappingCards(Sheet& sheet) {
   sheet.Fill({0, TopOfTable, WidthOfHand, CardHeight + 2 * Gap}, Colours::Navy);
-  constexpr std::array<Integer, 13> hand{52, 50, 45, 41, 38, 37, 34, 26, 24, 22, 13, 10, 4};
+  constexpr std::array<Integer, 13> hand{4, 10, 13, 22, 24, 26, 34, 37, 38, 41, 45, 50, 52};
   int left = Gap;
   for (const Integer card : hand) {
     sheet.Put(left, TopOfTable + Gap, CardPicture(card, sheet.Scale()));
