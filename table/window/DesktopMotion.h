@@ -23,10 +23,9 @@ class DesktopMotion : public QObject {
   // changes the desktop's settings. Nothing waits for it.
   explicit DesktopMotion(std::function<void(bool wantsMotion)> tell);
 
- private slots:
-  void Ask();
-
  private:
+  Q_SLOT void Ask();
+
   std::function<void(bool)> tell_;
 };
 

@@ -71,8 +71,8 @@ void Glides::DrawFrame(std::uint32_t now) {
   std::erase_if(glides_, [&](const Glide& glide) { return !Advance(glide, now); });
 }
 
-// What is drawn now is seen until the next frame; it is right in the middle of that time. False when
-// the widget has arrived.
+// What is drawn now is seen until the next frame; it is right in the middle of that time. False
+// when the widget has arrived.
 bool Glides::Advance(const Glide& glide, std::uint32_t now) const {
   const double progress = (now - glide.begun + frameMs_ / 2) / glide.lengthMs;
   if (progress >= 1) {
