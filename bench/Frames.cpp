@@ -61,9 +61,8 @@ int main(int count, char* arguments[]) {
   WatchedApplication application(count, arguments);
   const QTemporaryDir folder;
   Parlino::QtPlatform platform(folder.path().toStdString());
-  for (const Parlino::FirstRecord& first : Parlino::FirstRecords)
-    platform.ReplaceFile(first.file, first.record);
   Parlino::SetUpGame(platform);
+  Parlino::WriteFirstRecords();
   Parlino::DealGenerator.Seed(seed);
   bool isDealt = false;
   application.afterPainting = [&] {

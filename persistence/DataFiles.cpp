@@ -99,6 +99,11 @@ void ReadWelcome() {
   ReadRecord(WelcomeFile);
 }
 
+void WriteFirstRecords() {
+  for (const FirstRecord& first : FirstRecords)
+    ThePlatform().ReplaceFile(first.file, first.record);
+}
+
 void UseFirstRecord(std::string_view file) {
   for (const FirstRecord& first : FirstRecords)
     if (first.file == file) TakeRecord(file, first.record);

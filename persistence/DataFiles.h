@@ -31,6 +31,9 @@ void ReadNames();     // PlayerName, SeatNames[1..3]
 void ReadPoints();    // GamesWon, GamesPlayed
 void ReadWelcome();   // HideWelcome
 
+// Gives the platform the four files of a new game, in place of those it has.
+void WriteFirstRecords();
+
 // Puts what the file would hold in a new game into the game state.
 void UseFirstRecord(std::string_view file);
 

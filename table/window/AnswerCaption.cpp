@@ -1,10 +1,10 @@
 #include "table/window/AnswerCaption.h"
 
-#include <QKeyEvent>
 #include <QPainter>
 
 #include "table/TableEvents.h"
 #include "table/window/Design.h"
+#include "table/window/Keys.h"
 #include "table/window/MessageWindow.h"
 #include "table/window/PendingEvents.h"
 
@@ -32,9 +32,8 @@ void AnswerCaption::paintEvent(QPaintEvent*) {
 }
 
 void AnswerCaption::keyPressEvent(QKeyEvent* event) {
-  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (isEnter && !event->isAutoRepeat()) click();
-  if (!isEnter) QAbstractButton::keyPressEvent(event);
+  if (!IsEnter(*event)) return QAbstractButton::keyPressEvent(event);
+  if (!event->isAutoRepeat()) click();
 }
 
 }  // namespace Parlino

@@ -1,10 +1,10 @@
 #include "table/window/BidFace.h"
 
-#include <QKeyEvent>
 #include <QPainter>
 
 #include "table/window/Design.h"
 #include "table/window/Edges.h"
+#include "table/window/Keys.h"
 
 namespace Parlino {
 
@@ -36,7 +36,7 @@ void BidFace::paintEvent(QPaintEvent*) {
 }
 
 void BidFace::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+  if (IsEnter(*event))
     click();
   else
     QAbstractButton::keyPressEvent(event);

@@ -1,7 +1,6 @@
 #include "table/window/FindLine.h"
 
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
@@ -9,6 +8,7 @@
 #include <QToolButton>
 
 #include "table/window/Design.h"
+#include "table/window/Keys.h"
 #include "table/window/TableParts.h"
 
 namespace Parlino {
@@ -121,12 +121,11 @@ void FindLine::Say(const char* note, bool isFound) {
 }
 
 void FindLine::keyPressEvent(QKeyEvent* event) {
-  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (event->key() == Qt::Key_Escape)
     Close();
-  else if (isEnter && event->modifiers().testFlag(Qt::ShiftModifier))
+  else if (IsEnter(*event) && event->modifiers().testFlag(Qt::ShiftModifier))
     FindPrevious();
-  else if (isEnter)
+  else if (IsEnter(*event))
     FindNext();
   else
     QWidget::keyPressEvent(event);

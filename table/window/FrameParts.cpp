@@ -67,11 +67,10 @@ void AddRow(QWidget* frame, TableMirror& mirror, const ScoreRow& row) {
 }
 
 void AddLines(QWidget* frame) {
-  constexpr QColor colour(255, 224, 192);
   constexpr int tops[] = {1200, 1560, 2400, 2880};
   int number = 1;
   for (const int top : tops) {
-    auto* line = Named(new FilledBox(colour, frame), QString("Line%1").arg(number++));
+    auto* line = Named(new FilledBox(Colours::Peach, frame), QString("Line%1").arg(number++));
     line->setGeometry(0, ToPixels(top), ToPixels(2880), 1);
   }
 }

@@ -3,7 +3,6 @@
 #include <initializer_list>
 
 #include <QCloseEvent>
-#include <QKeyEvent>
 #include <QPushButton>
 #include <QShortcut>
 
@@ -11,6 +10,7 @@
 #include "table/window/Design.h"
 #include "table/window/FindLine.h"
 #include "table/window/HelpText.h"
+#include "table/window/Keys.h"
 #include "table/window/PendingEvents.h"
 #include "table/window/TableParts.h"
 #include "table/window/WindowPlace.h"
@@ -91,10 +91,9 @@ void HelpWindow::resizeEvent(QResizeEvent*) {
 }
 
 void HelpWindow::keyPressEvent(QKeyEvent* event) {
-  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (event->key() == Qt::Key_Escape && find_->isVisible())
     find_->Close();
-  else if (event->key() == Qt::Key_Escape || (isEnter && close_->hasFocus()))
+  else if (event->key() == Qt::Key_Escape || (IsEnter(*event) && close_->hasFocus()))
     AskToClose();
   else
     QWidget::keyPressEvent(event);

@@ -3,13 +3,13 @@
 #include <algorithm>
 
 #include <QCloseEvent>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QScreen>
 
 #include "table/window/AnswerCaption.h"
 #include "table/window/Design.h"
 #include "table/window/Edges.h"
+#include "table/window/Keys.h"
 #include "table/window/Pictures.h"
 #include "table/window/TableParts.h"
 
@@ -111,8 +111,7 @@ void MessageWindow::paintEvent(QPaintEvent*) {
 }
 
 void MessageWindow::keyPressEvent(QKeyEvent* event) {
-  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (isEnter && !event->isAutoRepeat()) faces_[0]->Click();
+  if (IsEnter(*event) && !event->isAutoRepeat()) faces_[0]->Click();
 }
 
 void MessageWindow::closeEvent(QCloseEvent* event) {

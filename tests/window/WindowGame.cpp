@@ -29,7 +29,7 @@ WindowGame::WindowGame(std::uint64_t seed) : platform(folder.path().toStdString(
   SetUpGame(platform);
   platform.Motion().Allow(false);  // a test that wants to see the way of the cards allows it
   DealGenerator.Seed(seed);
-  for (const FirstRecord& first : FirstRecords) platform.ReplaceFile(first.file, first.record);
+  WriteFirstRecords();
 }
 
 void WindowGame::Load() {

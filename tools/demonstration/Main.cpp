@@ -11,7 +11,6 @@
 #include "engine/Generator.h"
 #include "game/Game.h"
 #include "persistence/DataFiles.h"
-#include "platform/FolderFiles.h"
 #include "table/window/QtPlatform.h"
 #include "tools/demonstration/Demonstrator.h"
 
@@ -21,13 +20,6 @@ namespace fs = std::filesystem;
 
 // A hand that is worth looking at.
 constexpr std::uint64_t Seed = 5;
-
-// The demonstration has data files of its own: a player's score is not its business.
-void StockFolder(const fs::path& folder) {
-  fs::create_directories(folder);
-  for (const Parlino::FirstRecord& first : Parlino::FirstRecords)
-    Parlino::FolderFiles(folder).Replace(first.file, first.record);
-}
 
 int Report(const Parlino::Demonstrator& demonstrator, const fs::path& folder) {
   for (const std::string& line : demonstrator.CardsPlayed()) std::cout << line << '\n';
@@ -50,9 +42,10 @@ int main(int count, char* arguments[]) {
   }
   const fs::path folder = arguments[1];
   const QApplication application(count, arguments);
-  StockFolder(folder);
+  fs::create_directories(folder);
   Parlino::QtPlatform platform(folder);
   Parlino::SetUpGame(platform);
+  Parlino::WriteFirstRecords();  // a player's score is not the demonstration's business
   Parlino::DealGenerator.Seed(Seed);
   const Parlino::Demonstrator demonstrator(folder);
   const int status = Parlino::RunGame();
