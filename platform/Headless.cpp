@@ -11,9 +11,6 @@
 namespace Parlino {
 namespace {
 
-// So often the game may wait in vain before the script is held to be at its end.
-constexpr int MostIdleCalls = 100;
-
 constexpr std::uint64_t MsInDay = 86'400'000;
 
 std::string_view NameOf(WindowName window) {
@@ -56,7 +53,7 @@ void HeadlessPlatform::ProcessEvents(std::uint32_t atMostMs) {
   const bool nothingHappened =
       Table.Changes == changesBefore && MFormDeluxe.Visible == dialogBefore;
   idleCalls_ = nothingHappened ? idleCalls_ + 1 : 0;
-  if (idleCalls_ > MostIdleCalls) throw ScriptHasNothingToSay{};
+  if (idleCalls_ > mostIdleCalls) throw ScriptHasNothingToSay{};
 }
 
 double HeadlessPlatform::ClockSeconds() {

@@ -26,6 +26,8 @@ class HeadlessPlatform : public Platform {
   // Asked at every chance to process events, with the time the game is ready to wait. It looks at
   // the table as a person would and raises events through the table's doors.
   std::function<void(std::uint32_t atMostMs)> script = [](std::uint32_t) {};
+  // So often the game may wait in vain before the script is held to be at its end.
+  int mostIdleCalls = 100;
   // Answers a text-input box; without one the answer is OK with the default.
   std::function<std::string(std::string_view prompt, std::string_view title,
                             std::string_view defaultAnswer)>

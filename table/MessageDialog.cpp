@@ -65,7 +65,10 @@ void ShowMessage(std::string_view prompt, std::string_view firstButton,
   LayOutMessageDialog(MFormDeluxe, ThePlatform().PromptHeight(prompt, PromptWidth), screen.width,
                       screen.height);
   StartSound(RingSound);
-  MFormDeluxe.Visible = true;
+  struct Wait {
+    Wait() { MFormDeluxe.Visible = MFormDeluxe.IsWaiting = true; }
+    ~Wait() { MFormDeluxe.IsWaiting = false; }
+  } const wait;
   while (MFormDeluxe.Visible) WaitForEvents();
 }
 

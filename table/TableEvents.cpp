@@ -33,7 +33,7 @@ bool RaiseIn(bool isWindowOpen, void (*handler)()) {
 }  // namespace
 
 bool TableTakesInput() {
-  return Table.FrmMain.Visible && !MFormDeluxe.Visible;
+  return Table.FrmMain.Visible && !MFormDeluxe.IsWaiting;
 }
 
 bool ClickCard(int card) {

@@ -41,7 +41,8 @@ struct TableEvents {
 
 inline TableEvents Events;
 
-// Whether the table window is open and no message dialog is in front of it.
+// Whether the table window is open and no message dialog is in front of it, nor one that has been
+// answered a moment ago: a command let in then would run inside the one that asked.
 bool TableTakesInput();
 
 // Each raises its event and returns true, or does nothing and returns false.

@@ -86,9 +86,9 @@ TEST(About, DoorsOpenOnlyForAWindowThatCanBeReached) {
   EXPECT_FALSE(CloseHelp() || CloseAbout() || ClickSysInfo());
   ChooseMenu(MenuItem::MnuRules);
   ChooseMenu(MenuItem::MnuAbout);
-  MFormDeluxe.Visible = true;
+  MFormDeluxe.IsWaiting = true;
   EXPECT_FALSE(CloseHelp() || CloseAbout() || ClickSysInfo()) << "behind a dialog";
-  MFormDeluxe.Visible = false;
+  MFormDeluxe.IsWaiting = false;
   EXPECT_TRUE(CloseHelp() && ClickSysInfo() && CloseAbout());
   EXPECT_FALSE(CloseHelp() || ClickSysInfo() || CloseAbout());
 }

@@ -8,6 +8,7 @@
 #include "table/TableEvents.h"
 #include "table/TableView.h"
 #include "tests/support/HeadlessGame.h"
+#include "tools/chaos/TableRules.h"
 
 namespace Parlino {
 namespace {
@@ -102,7 +103,7 @@ class InterruptedHand {
   void OnEvents(std::uint32_t atMostMs) {
     if (Pack[1].Suit == 0 || chances_ < 0) return;
     CountShuffles();
-    ASSERT_EQ(BrokenInvariant(), "") << interruption_.name << " at " << moment_;
+    ASSERT_EQ(BrokenTableRule(), "") << interruption_.name << " at " << moment_;
     if (HandIsUnderWay() && !MFormDeluxe.Visible && ++chances_ == moment_) {
       raised_ = true;
       interruption_.raise();
@@ -187,6 +188,7 @@ TEST(Interruption, ADialogKeepsTheTableFromTakingInput) {
     EXPECT_FALSE(ClickAnswer(1)) << "the button is not shown";
     EXPECT_TRUE(ClickAnswer(0));
     EXPECT_FALSE(ClickAnswer(0)) << "the dialog is gone";
+    EXPECT_FALSE(ChooseMenu(MenuItem::MnuView)) << "the game has not gone on with the answer yet";
   };
   ChooseMenu(MenuItem::MnuView);
   EXPECT_TRUE(asked);

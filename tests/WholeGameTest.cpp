@@ -8,6 +8,7 @@
 #include "table/TableEvents.h"
 #include "table/TableView.h"
 #include "tests/support/HeadlessGame.h"
+#include "tools/chaos/TableRules.h"
 
 namespace Parlino {
 namespace {
@@ -16,7 +17,7 @@ namespace {
 int PlayLookingOn(HeadlessGame& game, PlainPlayer& player) {
   game.platform.script = [&](std::uint32_t atMostMs) {
     if (Pack[1].Suit != 0) {
-      ASSERT_EQ(BrokenInvariant(), "");
+      ASSERT_EQ(BrokenTableRule(), "");
     }
     player.OnEvents(atMostMs);
   };

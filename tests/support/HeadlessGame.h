@@ -58,8 +58,4 @@ Integer SuitOf(char letter);
 // Whether the platform's record holds a line that contains `text`.
 bool Recorded(const HeadlessPlatform& platform, std::string_view text);
 
-// The first invariant of the table and the game that does not hold, by name; empty when all hold.
-// May be asked at every chance to process events.
-std::string BrokenInvariant();
-
 }  // namespace Parlino

@@ -1,0 +1,91 @@
+#include "tools/chaos/ChaosSession.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "table/TableEvents.h"
+#include "table/TableView.h"
+#include "tools/chaos/TableRules.h"
+
+namespace Parlino {
+namespace {
+
+constexpr std::size_t LogLength = 40;
+
+// The table waits, in it a hand, in it the note of a card that may not be played, in it the pause
+// of a card, in it a dialog.
+constexpr int MostNested = 5;
+
+}  // namespace
+
+ChaosSession::ChaosSession(std::uint64_t seed, std::function<bool(const Deed&)> doDeed)
+    : person(seed), doDeed_(std::move(doDeed)) {}
+
+void ChaosSession::BeginProgram() {
+  watch.BeginProgram(programs_ > 0 && everythingWritten_);
+  everythingWritten_ = true;
+  ++programs_;
+}
+
+void ChaosSession::OnChance(int depth) {
+  ++chances_;
+  deepest_ = std::max(deepest_, depth);
+  CheckRules(depth);
+  for (int count = person.ChooseCount(); count > 0; --count) {
+    Do(person.ChooseDeed());
+    CheckRules(depth);
+  }
+}
+
+void ChaosSession::Do(const Deed& deed) {
+  if (deed.kind == DeedKind::ChooseMenu) {
+    const auto item = static_cast<MenuItem>(deed.number);
+    if (item == MenuItem::MnuLoad) watch.ExpectLoad();
+    if (item == MenuItem::ErasePoints) watch.ExpectErasing();
+  }
+  ++deedsDone_;
+  if (log_.size() == LogLength) log_.pop_front();
+  log_.push_back(TextOf(deed));
+  if (doDeed_(deed)) ++deedsTaken_;
+}
+
+void ChaosSession::OnMsgBox(std::string_view text) {
+  Require(!text.starts_with("Unexpected error"), std::string(text));
+  Require(!text.starts_with(" the hand is over"), std::string(text));
+  if (text.find("cannot be written") != std::string_view::npos) everythingWritten_ = false;
+}
+
+void ChaosSession::OnEnd() {
+  const std::uint64_t changes = Table.Changes;
+  const long takenBefore = deedsTaken_;
+  for (int count = 0; count < 100; ++count) Do(person.ChooseDeed());
+  Require(deedsTaken_ == takenBefore && Table.Changes == changes,
+          "nothing happens after the end of the program");
+}
+
+void ChaosSession::Require(bool holds, const std::string& rule) const {
+  if (!holds) throw RuleBroken{rule};
+}
+
+void ChaosSession::CheckRules(int depth) {
+  Require(depth <= MostNested, "what waits is nested " + std::to_string(MostNested) + " deep");
+  for (const std::string_view broken : {BrokenTableRule(), watch.Look()})
+    Require(broken.empty(), std::string(broken));
+}
+
+void ChaosSession::PrintLog(std::ostream& out) const {
+  for (const std::string& line : log_) out << "  " << line << "\n";
+}
+
+void ChaosSession::PrintFigures(std::ostream& out) const {
+  out << "programs begun    " << programs_ << "\n"
+      << "hands dealt       " << watch.HandsDealt() << "\n"
+      << "hands scored      " << watch.HandsScored() << "\n"
+      << "games ended       " << watch.GamesEnded() << "\n"
+      << "chances to act    " << chances_ << "\n"
+      << "events raised     " << deedsDone_ << "\n"
+      << "of these taken    " << deedsTaken_ << "\n"
+      << "deepest nesting   " << deepest_ << "\n";
+}
+
+}  // namespace Parlino

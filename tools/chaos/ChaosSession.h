@@ -1,0 +1,58 @@
+// The person who does anything, the referee who watches, and the log of what was done last.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <ostream>
+#include <string>
+
+#include "tools/chaos/ChaosPerson.h"
+#include "tools/chaos/HandWatch.h"
+
+namespace Parlino {
+
+// Thrown at a broken rule. It is no std::exception, so that no error report of the game takes it
+// for one of its own.
+struct RuleBroken {
+  std::string rule;
+};
+
+class ChaosSession {
+ public:
+  // `doDeed` does a deed to the program and says whether it was taken.
+  ChaosSession(std::uint64_t seed, std::function<bool(const Deed&)> doDeed);
+
+  // The program begins, for the first time or again.
+  void BeginProgram();
+  // A chance to process events, `depth` of them inside each other: some deeds, each followed by a
+  // look at every rule.
+  void OnChance(int depth);
+  // A box tells the player something.
+  void OnMsgBox(std::string_view text);
+  // The program has ended: nothing that is done now may change anything.
+  void OnEnd();
+
+  // A rule of the platform's own.
+  void Require(bool holds, const std::string& rule) const;
+  // What was done last, and what has been done altogether.
+  void PrintLog(std::ostream& out) const;
+  void PrintFigures(std::ostream& out) const;
+
+  ChaosPerson person;
+  HandWatch watch;
+
+ private:
+  void CheckRules(int depth);
+  void Do(const Deed& deed);
+
+  std::function<bool(const Deed&)> doDeed_;
+  std::deque<std::string> log_;
+  long deedsDone_ = 0;
+  long deedsTaken_ = 0;
+  long chances_ = 0;
+  int programs_ = 0;
+  int deepest_ = 0;
+  bool everythingWritten_ = true;
+};
+
+}  // namespace Parlino

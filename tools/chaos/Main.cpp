@@ -1,0 +1,110 @@
+// parlino-chaos: plays hands at the headless table while a person does anything at any time, and
+// checks after every event that every rule of the table holds.
+//
+//   parlino-chaos --hands N --seed S
+#include <exception>
+#include <iostream>
+#include <string>
+
+#include "engine/Errors.h"
+#include "engine/Generator.h"
+#include "game/Game.h"
+#include "platform/Headless.h"
+#include "table/TableView.h"
+#include "tools/CommandLine.h"
+#include "tools/chaos/ChaosSession.h"
+
+namespace Parlino {
+namespace {
+
+constexpr std::uint32_t AnHour = 3'600'000;
+
+class HeadlessChaos {
+ public:
+  HeadlessChaos(int hands, std::uint64_t seed) : hands_(hands), session_(seed, DoAtTable) {
+    platform_.mostIdleCalls = 100'000;
+    platform_.files.emplace("/parlino/ParlinoHelp.rtf", "{\\rtf1 Bid, and make your bid.}");
+    platform_.script = [this](std::uint32_t atMostMs) { OnEvents(atMostMs); };
+    platform_.answerInputBox = [this](auto, auto, auto) { return AnswerBox(); };
+    platform_.onMsgBox = [this](std::string_view text) { session_.OnMsgBox(text); };
+  }
+
+  int Play(std::uint64_t seed) {
+    DealGenerator.Seed(seed);
+    try {
+      while (session_.watch.HandsScored() < hands_) PlayProgram();
+    } catch (const RuleBroken& broken) {
+      return Tell(broken.rule);
+    } catch (const std::exception& error) {
+      return Tell(std::string("no error leaves the program, but one did: ") + error.what());
+    }
+    session_.PrintFigures(std::cout);
+    return 0;
+  }
+
+ private:
+  struct EnoughHands {};
+
+  int Tell(const std::string& rule) const {
+    std::cout << "broken rule: " << rule << "\nin hand " << session_.watch.HandsDealt()
+              << ", after these events:\n";
+    session_.PrintLog(std::cout);
+    return 1;
+  }
+
+  // From the start to the end that the person brings about.
+  void PlayProgram() {
+    SetUpGame(platform_);
+    session_.BeginProgram();
+    try {
+      RunGame();
+    } catch (const EnoughHands&) {
+      return;
+    }
+    session_.OnEnd();
+  }
+
+  void OnEvents(std::uint32_t atMostMs) {
+    if (session_.watch.HandsScored() >= hands_) throw EnoughHands{};
+    DisturbPlatform();
+    session_.OnChance(platform_.depth);
+    // A pause has many chances: most of the time only a part of it goes by.
+    if (atMostMs != Forever && atMostMs > 1 && !session_.person.Once(3))
+      platform_.ticks +=
+          static_cast<std::uint32_t>(session_.person.NextBelow(static_cast<int>(atMostMs)));
+  }
+
+  // The disk fills up and is emptied, the clock is set, the machine sleeps.
+  void DisturbPlatform() {
+    ChaosPerson& person = session_.person;
+    if (person.Once(2000)) platform_.filesCanBeWritten = !platform_.filesCanBeWritten;
+    if (person.Once(1000))
+      platform_.clockAtStart = static_cast<std::uint32_t>(person.NextBelow(86'400'000));
+    if (person.Once(5000)) platform_.ticks += AnHour;
+  }
+
+  // The session of the desktop may end while a box waits.
+  std::string AnswerBox() {
+    if (session_.person.Once(50)) UnloadAllForms();
+    return session_.person.ChooseName();
+  }
+
+  int hands_;
+  HeadlessPlatform platform_;
+  ChaosSession session_;
+};
+
+}  // namespace
+}  // namespace Parlino
+
+int main(int count, char** arguments) {
+  int hands = 0;
+  std::uint64_t seed = 0;
+  if (!Parlino::ParseCommandLine(
+          count, arguments,
+          {{"--hands", Parlino::TakeNumber(hands, 1)}, {"--seed", Parlino::TakeNumber(seed)}})) {
+    std::cerr << "usage: parlino-chaos --hands N --seed S\n";
+    return 2;
+  }
+  return Parlino::HeadlessChaos(hands, seed).Play(seed);
+}
