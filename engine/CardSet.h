@@ -33,7 +33,7 @@ class CardSet {
   static CardSet OfSuit(int first, Condition holds) {
     CardSet set;
     for (int place = 12; place >= 0; --place)
-      set.bits_ = set.bits_ << 1 | std::uint64_t{holds(first + place)};
+      set.bits_ = 2 * set.bits_ + std::uint64_t{holds(first + place)};
     set.bits_ <<= first;
     return set;
   }

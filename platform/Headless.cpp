@@ -42,14 +42,16 @@ void HeadlessPlatform::ProcessEvents(std::uint32_t atMostMs) {
   } const level(depth);
   deepest = std::max(deepest, depth);
 
+  if (atMostMs == Forever) return WaitForScript();
   const std::uint32_t start = ticks;
+  script(atMostMs);
+  if (ticks - start < atMostMs) ticks = start + atMostMs;
+}
+
+void HeadlessPlatform::WaitForScript() {
   const std::uint64_t changesBefore = Table.Changes;
   const bool dialogBefore = MFormDeluxe.Visible;
-  script(atMostMs);
-  if (atMostMs != Forever) {
-    if (ticks - start < atMostMs) ticks = start + atMostMs;
-    return;
-  }
+  script(Forever);
   const bool nothingHappened =
       Table.Changes == changesBefore && MFormDeluxe.Visible == dialogBefore;
   idleCalls_ = nothingHappened ? idleCalls_ + 1 : 0;

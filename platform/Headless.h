@@ -84,6 +84,7 @@ class HeadlessPlatform : public Platform {
   void StartProgram(std::string_view path) override;
 
  private:
+  void WaitForScript();
   void Note(std::string_view kind, std::string_view text);
 
   int idleCalls_ = 0;

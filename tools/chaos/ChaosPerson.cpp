@@ -34,11 +34,11 @@ constexpr Habit Habits[] = {
     {DeedKind::CloseHelp, 0, 1, 60},
     {DeedKind::CloseAbout, 0, 1, 60},
     {DeedKind::ClickSysInfo, 0, 1, 20},
-    {DeedKind::CloseTable, 0, 1, 4},
-    {DeedKind::ChooseMenu, NumberOf(MenuItem::MnuNew), 1, 4},
-    {DeedKind::ChooseMenu, NumberOf(MenuItem::MnuLoad), 1, 3},
+    {DeedKind::CloseTable, 0, 1, 1},
+    {DeedKind::ChooseMenu, NumberOf(MenuItem::MnuNew), 1, 2},
+    {DeedKind::ChooseMenu, NumberOf(MenuItem::MnuLoad), 1, 1},
     {DeedKind::ChooseMenu, NumberOf(MenuItem::MnuSave), 1, 20},
-    {DeedKind::ChooseMenu, NumberOf(MenuItem::MnuExit), 1, 3},
+    {DeedKind::ChooseMenu, NumberOf(MenuItem::MnuExit), 1, 1},
     {DeedKind::ChooseMenu, NumberOf(MenuItem::MnuRules),
      NumberOf(MenuItem::ErasePoints) - NumberOf(MenuItem::MnuRules) + 1, 200},
 };
@@ -91,7 +91,7 @@ Deed ChaosPerson::ChooseAnything() {
 
 Deed ChaosPerson::ChooseWanted() {
   if (MFormDeluxe.Visible) return {DeedKind::ClickAnswer, generator_.NextBelow(8) / 7};
-  if (Table.FramBids.Visible) return {DeedKind::ClickBid, 1 + generator_.NextBelow(TricksInHand)};
+  if (Table.FramBids.Visible) return {DeedKind::ClickBid, 1 + generator_.NextBelow(3)};
   if (HandIsUnderWay()) return {DeedKind::ClickCard, 1 + generator_.NextBelow(CardsInPack)};
   return {DeedKind::ChooseMenu, NumberOf(Once(4) ? MenuItem::MnuLoad : MenuItem::MnuNew)};
 }

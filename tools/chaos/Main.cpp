@@ -77,7 +77,8 @@ class HeadlessChaos {
   // The disk fills up and is emptied, the clock is set, the machine sleeps.
   void DisturbPlatform() {
     ChaosPerson& person = session_.person;
-    if (person.Once(2000)) platform_.filesCanBeWritten = !platform_.filesCanBeWritten;
+    if (person.Once(platform_.filesCanBeWritten ? 5000 : 500))
+      platform_.filesCanBeWritten = !platform_.filesCanBeWritten;
     if (person.Once(1000))
       platform_.clockAtStart = static_cast<std::uint32_t>(person.NextBelow(86'400'000));
     if (person.Once(5000)) platform_.ticks += AnHour;
