@@ -101,26 +101,29 @@ void CountGame(bool won) {
   AddTo(GamesPlayed, 1);
 }
 
-void ShowGameOver(bool won) {
+std::string GameOverPrompt(bool won) {
   constexpr std::string_view ending =
       ". See statistics for number of games won or lost. Click on New Game or Exit to leave.";
-  const std::string prompt =
-      won ? JoinText({"Well done, you and your partner won that game with a total score of ",
-                      OurPoints, " against their total  team score of ", TheirPoints, ending})
-          : JoinText({"Unfortunately the enemy won that game with a score of ", TheirPoints,
-                      " against your team score of  ", OurPoints, ending});
-  ShowMessage(prompt, "New Game", "Exit", "", won ? 1 : 2, "Game Over");
+  return won ? JoinText({"Well done, you and your partner won that game with a total score of ",
+                         OurPoints, " against their total  team score of ", TheirPoints, ending})
+             : JoinText({"Unfortunately the enemy won that game with a score of ", TheirPoints,
+                         " against your team score of  ", OurPoints, ending});
 }
 
+// Whoever wants to leave is asked again when the game could not be counted on the disk.
 void EndGame() {
   GameInProgress = False;
   const bool won = OurPoints > TheirPoints;
   CountGame(won);
-  ShowGameOver(won);
-  OurPoints = TheirPoints = 0;
-  SavePoints();
-  SaveGame();
-  if (MessageChoice != 0) UnloadAllForms();
+  const std::string prompt = GameOverPrompt(won);
+  while (true) {
+    ShowMessage(prompt, "New Game", "Exit", "", won ? 1 : 2, "Game Over");
+    OurPoints = TheirPoints = 0;
+    const bool pointsSaved = SavePoints();
+    const bool gameSaved = SaveGame();
+    if (MessageChoice == 0) return;
+    if (pointsSaved && gameSaved) UnloadAllForms();
+  }
 }
 
 }  // namespace

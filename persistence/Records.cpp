@@ -25,14 +25,13 @@ bool IsControl(char character) {
   return byte < 0x20 || byte == 0x7F;
 }
 
-// Length in bytes of a line or paragraph separator or a C1 control character that `text` begins
-// with, 0 without one.
+// Length in bytes of a line or paragraph separator or a C1 control character that `text` ends with,
+// 0 without one.
 std::size_t WideControlLength(std::string_view text) {
-  if (text.starts_with("\u2028") || text.starts_with("\u2029")) return 3;
-  if (text.size() >= 2 && text[0] == '\xC2' && static_cast<unsigned char>(text[1]) >= 0x80 &&
-      static_cast<unsigned char>(text[1]) <= 0x9F)
-    return 2;
-  return 0;
+  if (text.ends_with("\u2028") || text.ends_with("\u2029")) return 3;
+  if (text.size() < 2 || text[text.size() - 2] != '\xC2') return 0;
+  const auto last = static_cast<unsigned char>(text.back());
+  return last >= 0x80 && last <= 0x9F ? 2 : 0;
 }
 
 // The first line of the file without its line end; raises when anything follows the line.
@@ -81,7 +80,7 @@ std::string RecordReader::TakeText() {
   }
   if (field.find('"') != std::string_view::npos)
     RaiseMalformed("field " + std::to_string(fieldsTaken_) + " has a stray double quote");
-  return std::string(field);
+  return KeepStorable(field);
 }
 
 Integer RecordReader::TakeInteger() {
@@ -126,15 +125,14 @@ RecordWriter& RecordWriter::AddFlag(Flag flag) {
   return *this;
 }
 
+// What has been kept so far is looked at again after every byte: where something is taken out of
+// text that is no UTF-8, what stood round it may form the next thing to take out.
 std::string KeepStorable(std::string_view text) {
   std::string kept;
-  while (!text.empty()) {
-    if (const std::size_t length = WideControlLength(text)) {
-      text.remove_prefix(length);
-      continue;
-    }
-    if (text[0] != '"' && !IsControl(text[0])) kept += text[0];
-    text.remove_prefix(1);
+  for (const char character : text) {
+    if (character == '"' || IsControl(character)) continue;
+    kept += character;
+    kept.resize(kept.size() - WideControlLength(kept));
   }
   return kept;
 }

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <system_error>
@@ -14,6 +15,9 @@ namespace Parlino {
 namespace {
 
 namespace fs = std::filesystem;
+
+// Between the name of a record and the random end of the name of its temporary file.
+constexpr std::string_view TemporaryMark = ".saving-";
 
 [[noreturn]] void RaiseSystemError(std::string_view fileName, std::string_view action, int number) {
   throw GameError(number, std::string(fileName)
@@ -44,7 +48,8 @@ bool WriteAll(int descriptor, std::string_view content) {
   while (!content.empty()) {
     const ssize_t written = ::write(descriptor, content.data(), content.size());
     if (written < 0 && errno == EINTR) continue;
-    if (written < 0) return false;
+    if (written == 0) errno = EIO;  // trying again might never end
+    if (written <= 0) return false;
     content.remove_prefix(static_cast<std::size_t>(written));
   }
   return true;
@@ -55,10 +60,30 @@ void FlushFolder(const fs::path& folder) {
   if (descriptor.IsOpen()) ::fsync(descriptor.Number());
 }
 
-}  // namespace
+// Removes what a program that was killed while it saved has left beside the record. A temporary
+// file younger than an hour may be the save of another game in this folder. Times are those of the
+// record's own disk; what cannot be removed stays until the next save.
+void RemoveAbandoned(const fs::path& path) {
+  constexpr auto longestSave = std::chrono::hours(1);
+  const std::string beginning = path.filename().string().append(TemporaryMark);
+  std::error_code failed;
+  const fs::file_time_type now = fs::last_write_time(path, failed);
+  fs::directory_iterator entry(path.parent_path(), failed);
+  for (; !failed && entry != fs::directory_iterator(); entry.increment(failed)) {
+    if (!entry->path().filename().string().starts_with(beginning)) continue;
+    const fs::file_time_type written = entry->last_write_time(failed);
+    if (!failed && now - written > longestSave) ::unlink(entry->path().c_str());
+  }
+}
 
-std::string FolderFiles::Read(std::string_view fileName, std::size_t atMost) const {
-  const fs::path path = folder_ / fileName;
+bool IsThere(std::string_view fileName, const fs::path& path, std::string_view action) {
+  struct stat ignored {};
+  if (::lstat(path.c_str(), &ignored) == 0) return true;
+  if (errno != ENOENT) RaiseSystemError(fileName, action, errno);
+  return false;
+}
+
+std::string ReadWhole(std::string_view fileName, const fs::path& path, std::size_t atMost) {
   // Without waiting: there may be a pipe of that name that nobody writes into.
   const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
   if (!file.IsOpen()) RaiseSystemError(fileName, "read", errno);
@@ -78,31 +103,65 @@ std::string FolderFiles::Read(std::string_view fileName, std::size_t atMost) con
   }
 }
 
-void FolderFiles::Replace(std::string_view fileName, std::string_view content) const {
-  const fs::path path = folder_ / fileName;
+// Writes the content to a file beside the record and flushes it to the disk. Returns its path.
+std::string WriteTemporary(std::string_view fileName, const fs::path& path,
+                           std::string_view content) {
   // A name of its own for every writer: two games in one folder must not share a temporary file.
-  std::string temporary = path.string() + ".XXXXXX";
+  std::string temporary = path.string().append(TemporaryMark).append("XXXXXX");
   Descriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
   if (!file.IsOpen()) RaiseSystemError(fileName, "written", errno);
   constexpr mode_t readableByAll = 0644;
   const bool written = WriteAll(file.Number(), content) &&
                        ::fchmod(file.Number(), readableByAll) == 0 && ::fsync(file.Number()) == 0 &&
-                       file.Close() && ::rename(temporary.c_str(), path.c_str()) == 0;
-  if (!written) {
-    const int number = errno;
-    ::unlink(temporary.c_str());
-    RaiseSystemError(fileName, "written", number);
-  }
-  FlushFolder(folder_);  // makes the rename outlast a power cut; the record is whole either way
+                       file.Close();
+  if (written) return temporary;
+  const int number = errno;
+  ::unlink(temporary.c_str());
+  RaiseSystemError(fileName, "written", number);
 }
 
-void FolderFiles::SetAside(std::string_view fileName) const {
+}  // namespace
+
+// A file counts as unread until it has been read to its end.
+std::string FolderFiles::Read(std::string_view fileName, std::size_t atMost) {
+  unread_.emplace(fileName);
+  std::string content = ReadWhole(fileName, folder_ / fileName, atMost);
+  unread_.erase(unread_.find(fileName));
+  return content;
+}
+
+void FolderFiles::Replace(std::string_view fileName, std::string_view content) {
+  if (content.size() > LongestRecord) RaiseSystemError(fileName, "written", EFBIG);
+  const fs::path path = folder_ / fileName;
+  const std::string temporary = WriteTemporary(fileName, path, content);
+  const auto unread = unread_.find(fileName);
+  try {
+    if (unread != unread_.end() && IsThere(fileName, path, "written"))
+      MoveAside(fileName, "written");
+    if (::rename(temporary.c_str(), path.c_str()) != 0)
+      RaiseSystemError(fileName, "written", errno);
+  } catch (const GameError&) {
+    ::unlink(temporary.c_str());
+    throw;
+  }
+  if (unread != unread_.end()) unread_.erase(unread);
+  FlushFolder(folder_);  // makes the rename outlast a power cut; the record is whole either way
+  RemoveAbandoned(path);
+}
+
+void FolderFiles::SetAside(std::string_view fileName) {
+  const auto unread = unread_.emplace(fileName).first;
+  MoveAside(fileName, "set aside");
+  unread_.erase(unread);
+}
+
+void FolderFiles::MoveAside(std::string_view fileName, std::string_view action) const {
   const fs::path path = folder_ / fileName;
   const std::string aside = path.string() + ".bad";
   std::string name = aside;
-  std::error_code ignored;  // a name that cannot be looked at fails at the renaming
-  for (int number = 2; fs::exists(name, ignored); ++number) name = aside + std::to_string(number);
-  if (::rename(path.c_str(), name.c_str()) != 0) RaiseSystemError(fileName, "set aside", errno);
+  for (int number = 2; IsThere(fileName, name, action); ++number)
+    name = aside + std::to_string(number);
+  if (::rename(path.c_str(), name.c_str()) != 0) RaiseSystemError(fileName, action, errno);
 }
 
 bool FolderFiles::Exists(std::string_view fileName) const {

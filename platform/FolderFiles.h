@@ -5,6 +5,8 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <functional>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -22,20 +24,24 @@ class FolderFiles {
   [[nodiscard]] const std::filesystem::path& Folder() const { return folder_; }
 
   // Raises for a file longer than `atMost` bytes.
-  [[nodiscard]] std::string Read(std::string_view fileName,
-                                 std::size_t atMost = LongestRecord) const;
+  [[nodiscard]] std::string Read(std::string_view fileName, std::size_t atMost = LongestRecord);
 
   // Writes a temporary file in the same folder, flushes it to the disk and renames it over the old
-  // one, so that whatever happens the file is the old or the new one whole.
-  void Replace(std::string_view fileName, std::string_view content) const;
+  // one, so that whatever happens the file is the old or the new one whole. An old one that the
+  // last Read or SetAside failed on is first set aside: nobody has seen what is in it. Raises for
+  // content too long to be read again.
+  void Replace(std::string_view fileName, std::string_view content);
 
   // Renames the file to a free name: ".bad" is added, or ".bad2", ".bad3" and so on.
-  void SetAside(std::string_view fileName) const;
+  void SetAside(std::string_view fileName);
 
   [[nodiscard]] bool Exists(std::string_view fileName) const;
 
  private:
+  void MoveAside(std::string_view fileName, std::string_view action) const;
+
   std::filesystem::path folder_;
+  std::set<std::string, std::less<>> unread_;  // names of files not read though asked for
 };
 
 }  // namespace Parlino

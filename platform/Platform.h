@@ -75,7 +75,8 @@ class Platform {
   virtual std::string ReadFile(std::string_view fileName) = 0;
   // The same for a file that may be much longer than a record.
   virtual std::string ReadDocument(std::string_view fileName) = 0;
-  // Replaces the file whole or leaves it as it was.
+  // Replaces the file whole or leaves it as it was. A file that could not be read before is set
+  // aside.
   virtual void ReplaceFile(std::string_view fileName, std::string_view content) = 0;
   // Renames the file so that nothing overwrites it: ".bad" is added, and a number where that name
   // is taken.

@@ -1,3 +1,4 @@
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -19,86 +20,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct SavedGame {
-  int ours;
-  int theirs;
-  Flag inProgress;
-  bool operator==(const SavedGame&) const = default;
-};
-
-SavedGame CurrentGame() {
-  return {OurPoints, TheirPoints, GameInProgress};
-}
-
-struct SavedGameCase {
-  std::string_view file;
-  bool good;
-  SavedGame expected;
-};
-
-TEST(DataFiles, ReadASavedGameWholeOrNotAtAll) {
-  const SavedGame before{7, 8, True};
-  for (const SavedGameCase& example : {
-           SavedGameCase{"120,-35,#TRUE#\r\n", true, {120, -35, True}},
-           SavedGameCase{"120,-35,#TRUE#\n", true, {120, -35, True}},
-           SavedGameCase{"120,-35,#TRUE#", true, {120, -35, True}},
-           SavedGameCase{" 120, -35, #FALSE#\r\n", true, {120, -35, False}},
-           SavedGameCase{"\xEF\xBB\xBF"
-                         "1,2,#TRUE#\r\n",
-                         true,
-                         {1, 2, True}},
-           SavedGameCase{"32767,-32768,#TRUE#\r\n", true, {32767, -32768, True}},
-           SavedGameCase{"32768,0,#TRUE#\r\n", false, before},
-           SavedGameCase{"120,-32769,#TRUE#\r\n", false, before},
-           SavedGameCase{"120,-35,TRUE\r\n", false, before},
-           SavedGameCase{"120,-35\r\n", false, before},
-           SavedGameCase{"120,-35,#TRUE#,4\r\n", false, before},
-           SavedGameCase{"120,-35,#TRUE#\r\n1\r\n", false, before},
-           SavedGameCase{"12x,-35,#TRUE#\r\n", false, before},
-           SavedGameCase{",,\r\n", false, before},
-           SavedGameCase{"", false, before},
-           SavedGameCase{std::string_view("120,-35\0,#TRUE#\r\n", 17), false, before},
-       }) {
-    HeadlessGame game;
-    std::tie(OurPoints, TheirPoints, GameInProgress) = std::tuple(Integer{7}, Integer{8}, True);
-    game.platform.files["SaveGame.dat"] = example.file;
-    if (example.good) {
-      EXPECT_NO_THROW(ReadSaveGame()) << example.file;
-    } else {
-      EXPECT_THROW(ReadSaveGame(), GameError) << example.file;
-    }
-    EXPECT_TRUE(CurrentGame() == example.expected) << example.file;
-    EXPECT_EQ(game.platform.files.contains("SaveGame.dat.bad"), !example.good) << example.file;
-  }
-}
-
-// Cut at every length and changed at every byte, a record loads whole or is refused whole.
-TEST(DataFiles, SurviveEveryCutAndEveryChangedByte) {
-  const std::string record =
-      "\"Ann\",\"Be, a\",\"\",\"D\xC3\xA9"
-      "d\"\r\n";
-  const auto tryRecord = [](const std::string& text) {
-    HeadlessGame game;
-    PlayerName = "kept";
-    game.platform.files["Names2.dat"] = text;
-    try {
-      ReadNames();
-      EXPECT_EQ(PlayerName.find_first_of("\"\r\n"), std::string::npos) << text;
-    } catch (const GameError&) {
-      EXPECT_EQ(PlayerName, "kept") << text;
-      EXPECT_EQ(game.platform.files["Names2.dat.bad"], text);
-    }
-  };
-  for (std::size_t length = 0; length <= record.size(); ++length)
-    tryRecord(record.substr(0, length));
-  for (std::size_t place = 0; place < record.size(); ++place)
-    for (int byte = 0; byte < 256; ++byte) {
-      std::string changed = record;
-      changed[place] = static_cast<char>(byte);
-      tryRecord(changed);
-    }
-}
-
 TEST(DataFiles, KeepNamesButForWhatARecordCannotHold) {
   struct {
     std::string given;
@@ -111,6 +32,7 @@ TEST(DataFiles, KeepNamesButForWhatARecordCannotHold) {
       {"a \"quoted\" one", "a quoted one"},
       {"two\r\nlines\t\x7F", "twolines"},
       {"line\xE2\x80\xA8separator\xC2\x85", "lineseparator"},
+      {"one \xE2\x80\xC2\x85\xA9 in another", "one  in another"},
       {std::string(5000, 'x'), std::string(5000, 'x')},
   };
   for (const auto& example : cases) {
@@ -259,15 +181,29 @@ class FolderFilesTest : public testing::Test {
 };
 
 TEST_F(FolderFilesTest, ReplaceAFileWholeAndLeaveNothingBeside) {
-  const FolderFiles files(folder_);
+  FolderFiles files(folder_);
   files.Replace("Points.dat", "100,200\r\n");
   files.Replace("Points.dat", "1,2\r\n");
   EXPECT_EQ(files.Read("Points.dat"), "1,2\r\n");
   EXPECT_EQ(CountFiles(), 1);
 }
 
+// A killed program leaves its temporary file behind; it goes once no game can be writing it.
+TEST_F(FolderFilesTest, RemoveOnlyTemporaryFilesThatAreOldAndTheirOwn) {
+  const auto now = fs::file_time_type::clock::now();
+  for (const char* name : {"Points.dat.saving-AbCdEf", "Points.dat.saving-GhIjKl",
+                           "Names2.dat.saving-AbCdEf", "Points.dat.backup", "Points.dat.bad"}) {
+    std::ofstream(folder_ / name) << "1,2";
+    fs::last_write_time(folder_ / name, now - std::chrono::minutes(61));
+  }
+  fs::last_write_time(folder_ / "Points.dat.saving-GhIjKl", now - std::chrono::minutes(59));
+  FolderFiles(folder_).Replace("Points.dat", "1,2\r\n");
+  EXPECT_FALSE(fs::exists(folder_ / "Points.dat.saving-AbCdEf"));
+  EXPECT_EQ(CountFiles(), 5);
+}
+
 TEST_F(FolderFilesTest, NameTheFileAndTheReasonOfAFailure) {
-  const FolderFiles files(folder_ / "gone");
+  FolderFiles files(folder_ / "gone");
   for (const auto& attempt :
        {std::function<void()>([&] { files.Replace("Points.dat", "1,2"); }),
         std::function<void()>([&] { std::ignore = files.Read("Points.dat"); })}) {
@@ -292,7 +228,7 @@ TEST_F(FolderFilesTest, RefuseWhatIsNoOrdinaryFileWithoutWaitingForIt) {
 }
 
 TEST_F(FolderFilesTest, SetAFileAsideWithoutLosingAnOlderOne) {
-  const FolderFiles files(folder_);
+  FolderFiles files(folder_);
   for (const char* content : {"first", "second", "third"}) {
     files.Replace("Names2.dat", content);
     files.SetAside("Names2.dat");

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <gtest/gtest.h>
 
 #include "engine/RoundDriver.h"
@@ -193,13 +194,13 @@ TEST(TrickFlow, MovesAFinishedTrickToTheWinnersPile) {
 TEST(Pauses, LastAsLongAsTheySayAlsoWhenTheTicksWrap) {
   HeadlessGame game;
   for (const std::uint32_t start : {0U, 0x7FFFFFF0U, 0xFFFFFFF0U}) {
-    for (const Integer length : {Integer{0}, Integer{25}, Integer{2500}}) {
+    for (const int length : {-32768, -1, 0, 25, 2500, 32767}) {
       int chances = 0;
       game.platform.script = [&](std::uint32_t) { ++chances; };
       game.platform.ticks = start;
-      PauseMs = length;
+      PauseMs = ToInteger(length);
       WaitMs();
-      EXPECT_EQ(game.platform.ticks - start, static_cast<std::uint32_t>(length));
+      EXPECT_EQ(game.platform.ticks - start, static_cast<std::uint32_t>(std::max(length, 0)));
       EXPECT_EQ(chances > 0, length > 0);
     }
   }

@@ -157,33 +157,5 @@ TEST(WholeGame, AScoreThatCannotBeSavedIsNotThrownAway) {
   EXPECT_TRUE(game.platform.files["SaveGame.dat"].starts_with(std::to_string(points) + ","));
 }
 
-struct RangeCase {
-  const char* file;
-  const char* content;
-  int bid;  // South's
-  const Integer& value;
-};
-
-// Neither a total nor a count ever wraps: it is reported and kept, and the hand is settled.
-TEST(WholeGame, WhatWouldLeaveItsRangeIsReportedAndKept) {
-  for (const RangeCase& example : {RangeCase{"SaveGame.dat", "-32760,5,#TRUE#\r\n", 13, OurPoints},
-                                   RangeCase{"SaveGame.dat", "32767,5,#TRUE#\r\n", 1, OurPoints},
-                                   RangeCase{"SaveGame.dat", "5,-32768,#TRUE#\r\n", 1, TheirPoints},
-                                   RangeCase{"Points.dat", "0,32767\r\n", 1, GamesPlayed}}) {
-    HeadlessGame game(17);
-    game.platform.files["SaveGame.dat"] = "2000,5,#TRUE#\r\n";
-    game.platform.files[example.file] = example.content;
-    PlainPlayer player(1, example.bid);
-    Integer before = 0;
-    game.platform.onMsgBox = [&](std::string_view) { before = example.value; };
-    player.onDialog = [&] { EXPECT_EQ(example.value, before) << example.content; };
-    PlayLookingOn(game, player);
-    EXPECT_TRUE(Recorded(game.platform, "Unexpected error in procedure: DealNewRound\nError #34"))
-        << example.content;
-    EXPECT_TRUE(before > 32000 || before < -32000) << example.content;
-    EXPECT_EQ(player.HandsScored(), 1) << example.content;
-  }
-}
-
 }  // namespace
 }  // namespace Parlino

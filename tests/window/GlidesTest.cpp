@@ -86,14 +86,23 @@ class WayWatcher : public QObject {
   Indexed<Way, 1, CardsInPack> ways_;
 };
 
+// The counter of ticks wraps in the middle of the second and the third deal.
 TEST_F(Motion, ADealDrawsNoCardBesideItsWay) {
+  constexpr std::uint32_t dealMs = CardsInPack * 2 * 25;
   WayWatcher watcher;
   game.platform.person = [&] { watcher.NoteModel(); };
-  Dealer = West;
-  DealCards();
-  EXPECT_TRUE(watcher.astray.isEmpty()) << watcher.astray.join(' ').toStdString();
-  EXPECT_GT(watcher.onTheWay, CardsInPack);
-  EXPECT_GT(watcher.paintings, watcher.onTheWay);
+  for (const std::uint32_t begun : {0U, 0x80000000U - dealMs / 2, 0U - dealMs / 2}) {
+    PlacePackDeal();
+    game.Turn();
+    game.platform.ticks = begun;
+    watcher.onTheWay = watcher.paintings = 0;
+    Dealer = West;
+    DealCards();
+    EXPECT_EQ(game.platform.ticks - begun, dealMs);
+    EXPECT_TRUE(watcher.astray.isEmpty()) << watcher.astray.join(' ').toStdString();
+    EXPECT_GT(watcher.onTheWay, CardsInPack) << begun;
+    EXPECT_GT(watcher.paintings, watcher.onTheWay) << begun;
+  }
 }
 
 TEST_F(Motion, ADealTakesNoLongerThanWithoutIt) {
@@ -109,15 +118,40 @@ TEST_F(Motion, ADealTakesNoLongerThanWithoutIt) {
 }
 
 TEST_F(Motion, ACardIsThereBeforeThePauseEndsAndSlowsDownOnItsWay) {
-  for (const std::uint32_t pause : {25U, 150U, 500U}) {
-    MoveTo(Table.Cds[52], pause == 150 ? TablePoint{5040, 3720} : TablePoint{2400, 6600});
-    const QPoint goal = ToPixels(Table.Cds[52].Place);
-    const double way = Distance(card.pos(), goal);
-    Pass(pause / 3, pause);
-    EXPECT_LT(Distance(card.pos(), goal), way / 2) << pause;
-    EXPECT_GT(Distance(card.pos(), goal), 0) << pause;
-    Pass(pause - pause / 3, pause);
-    EXPECT_EQ(card.pos(), goal) << pause;
+  const TablePoint places[] = {{2400, 6600}, {5040, 3720}};
+  int moves = 0;
+  for (const std::uint32_t wrap : {5000U, 0x80000000U, 0U}) {
+    for (const std::uint32_t pause : {25U, 150U, 500U}) {
+      game.platform.ticks = wrap - pause / 2;
+      MoveTo(Table.Cds[52], places[moves++ % 2]);
+      const QPoint goal = ToPixels(Table.Cds[52].Place);
+      const double way = Distance(card.pos(), goal);
+      Pass(pause / 3, pause);
+      EXPECT_LT(Distance(card.pos(), goal), way / 2) << pause;
+      EXPECT_GT(Distance(card.pos(), goal), 0) << pause;
+      Pass(pause - pause / 3, pause);
+      EXPECT_EQ(card.pos(), goal) << pause;
+    }
+  }
+}
+
+// The pause is over when the machine wakes up; the next one begins with another card.
+TEST_F(Motion, AfterASleepOfAnyLengthTheCardIsThereAndTheNextOneGlides) {
+  const QWidget& next = game.Find("Cds(51)");
+  for (const std::uint32_t asleepMs : {3'600'000U, 0x7FFFFFFFU, 0xFFFF0000U}) {
+    MoveTo(Table.Cds[52], {2400, 6600});
+    game.platform.ProcessEvents(500);
+    ASSERT_NE(card.pos(), ToPixels(Table.Cds[52].Place)) << asleepMs;
+    game.platform.ticks += asleepMs;
+    MoveTo(Table.Cds[51], {2400, 6600});
+    game.platform.ProcessEvents(500);
+    EXPECT_EQ(card.pos(), ToPixels(Table.Cds[52].Place)) << asleepMs;
+    Pass(100, 450);
+    EXPECT_GT(Distance(next.pos(), ToPixels(Table.Cds[51].Place)), 0) << asleepMs;
+    Pass(350, 350);
+    EXPECT_EQ(next.pos(), ToPixels(Table.Cds[51].Place)) << asleepMs;
+    PlacePackDeal();
+    game.Turn();
   }
 }
 

@@ -21,7 +21,7 @@ constexpr QPoint SpotOfCard(8, 48);  // seen also where the next card lies over 
 
 void QuickPlatform::WaitForToolkit(std::uint32_t atMostMs) {
   person();
-  if (atMostMs != Forever) ticks_ += atMostMs;
+  if (atMostMs != Forever) ticks += atMostMs;
   QtPlatform::WaitForToolkit(0);
 }
 

@@ -1,5 +1,5 @@
-// A game in a real window for the tests. Time is virtual: a pause is over as soon as the toolkit
-// has done what it had to do.
+// A game in a real window for the tests and the long runs. Time is virtual: a pause is over as soon
+// as the toolkit has done what it had to do.
 #pragma once
 
 #include <functional>
@@ -22,14 +22,12 @@ class QuickPlatform : public QtPlatform {
 
   // The person at the window: asked before every wait, with the table shown as it stands.
   std::function<void()> person = [] {};
+  std::uint32_t ticks = 0;
 
-  std::uint32_t Ticks() override { return ticks_; }
+  std::uint32_t Ticks() override { return ticks; }
 
  protected:
   void WaitForToolkit(std::uint32_t atMostMs) override;
-
- private:
-  std::uint32_t ticks_ = 0;
 };
 
 class WindowGame {

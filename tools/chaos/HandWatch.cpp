@@ -170,10 +170,11 @@ bool HandWatch::TurnIsTheHumans() const {
   return isDealt_ && SeatAfter(leader_, static_cast<int>(trick_.size())) == Player;
 }
 
-// A game that is over leaves its totals until its dialog has been answered.
+// A game that is over leaves its totals until its dialog has been answered; the dialog comes again
+// when the player wants to leave and the game could not be saved.
 bool HandWatch::TotalsAreTheReferees() {
   const Pair now{OurPoints, TheirPoints};
-  const bool gameEnds = gameOver_ && now == Pair{} && !IsOpen("   Game Over");
+  const bool gameEnds = gameOver_ && now == Pair{};
   if (now != totals_ && loaded_ == now) {
     totals_ = now;
     loaded_.reset();

@@ -60,7 +60,8 @@ Sound MakeShuffle() {
     const double part = (i + 0.5 * noise.NextFraction()) / flicks;
     const double start = 0.02 + riffle * (part + 0.1 * std::sin(2 * std::numbers::pi * part));
     const double swell = 0.45 + 0.55 * std::sin(std::numbers::pi * part);
-    Mix(sound, MakeFlick(noise), start, swell * (0.6 + 0.4 * noise.NextFraction()));
+    const double loudness = swell * (0.6 + 0.4 * noise.NextFraction());
+    Mix(sound, MakeFlick(noise), start, loudness);
   }
   Mix(sound, FilterBand(MakePuff(noise, 0.75, 0.4, 0.12), 1500, 1800), 0.0, 0.10);
 

@@ -1,0 +1,28 @@
+// The platform without a window whose files lie in a folder of the disk.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <utility>
+
+#include "platform/FolderFiles.h"
+#include "platform/Headless.h"
+
+namespace Parlino {
+
+class HeadlessInFolder : public HeadlessPlatform {
+ public:
+  explicit HeadlessInFolder(std::filesystem::path folder) : onDisk_(std::move(folder)) {}
+
+  std::string ReadFile(std::string_view fileName) override { return onDisk_.Read(fileName); }
+  void ReplaceFile(std::string_view fileName, std::string_view content) override {
+    onDisk_.Replace(fileName, content);
+  }
+  void SetFileAside(std::string_view fileName) override { onDisk_.SetAside(fileName); }
+  bool FileExists(std::string_view fileName) override { return onDisk_.Exists(fileName); }
+
+ private:
+  FolderFiles onDisk_;
+};
+
+}  // namespace Parlino

@@ -1,0 +1,148 @@
+// The four data files with every content there is: a record is taken whole or not at all.
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <set>
+
+#include "engine/Errors.h"
+#include "platform/HeadlessInFolder.h"
+#include "tests/support/HeadlessGame.h"
+#include "tests/support/RecordFaults.h"
+
+namespace Parlino {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::string_literals;
+
+const RecordDoor& DoorOf(std::string_view file) {
+  return *std::ranges::find(RecordDoors, file, &RecordDoor::file);
+}
+
+RecordVerdict TrySoundly(const RecordDoor& door, std::string_view content) {
+  RecordVerdict verdict = TryRecord(door, content);
+  EXPECT_EQ(verdict.fault, "") << door.file << " holding " << testing::PrintToString(content);
+  return verdict;
+}
+
+TEST(Records, AreTakenAndSavedAgainOrRefused) {
+  const struct {
+    std::string_view file;
+    std::string content;
+    std::string savedAs;  // without the line end; "" when it is refused
+  } cases[] = {
+      {SaveGameFile, "120,-35,#TRUE#\r\n", "120,-35,#TRUE#"},
+      {SaveGameFile, "120,-35,#TRUE#\n", "120,-35,#TRUE#"},
+      {SaveGameFile, "120,-35,#TRUE#", "120,-35,#TRUE#"},
+      {SaveGameFile, " 120, -35, #FALSE#\r\n", "120,-35,#FALSE#"},
+      {SaveGameFile, "\xEF\xBB\xBF-0,007,#TRUE#\r\n", "0,7,#TRUE#"},
+      {SaveGameFile, "32767,-32768,#TRUE#\r\n", "32767,-32768,#TRUE#"},
+      {SaveGameFile, "32768,0,#TRUE#\r\n", ""},
+      {SaveGameFile, "120,-32769,#TRUE#\r\n", ""},
+      {SaveGameFile, "120,99999999999999999999,#TRUE#\r\n", ""},
+      {SaveGameFile, "120,-35,TRUE\r\n", ""},
+      {SaveGameFile, "120,-35\r\n", ""},
+      {SaveGameFile, "120,-35,#TRUE#,4\r\n", ""},
+      {SaveGameFile, "120,-35,#TRUE#\r\n1\r\n", ""},
+      {SaveGameFile, "12x,-35,#TRUE#\r\n", ""},
+      {SaveGameFile, ",,\r\n", ""},
+      {SaveGameFile, "120,-35\0,#TRUE#\r\n"s, ""},
+      {PointsFile, "3,7\r", ""},
+      {PointsFile, "3\r7\r\n", ""},
+      {PointsFile, "3,7\r\r\n", ""},
+      {PointsFile, "3,7\n\n", ""},
+      {PointsFile, "3,+7\r\n", ""},
+      {PointsFile, "3,7.5\r\n", ""},
+      {PointsFile, "\0\0\0\0\0"s, ""},
+      {WelcomeFile, "#true#\r\n", ""},
+      {WelcomeFile, "\xEF\xBB\xBF", ""},
+      {WelcomeFile, "\xFF\xFE#\0T\0R\0U\0E\0#\0"s, ""},
+      {NamesFile, "Ann,\"Be, a\",,D\xC3\xA9\r\n", "\"Ann\",\"Be, a\",\"\",\"D\xC3\xA9\""},
+      {NamesFile, "\" A \", B , ,\"\xEF\xBB\xBF\"\n", "\" A \",\"B\",\"\",\"\xEF\xBB\xBF\""},
+      {NamesFile, "a\xE2\x80\xA8,\xC2\x85z,\xE2\x80\xC2\x80\xA9,\xFF", "\"a\",\"z\",\"\",\"\xFF\""},
+      {NamesFile, "\"A\",\"B\",\"C\",\"D\r\n", ""},
+      {NamesFile, "\"A\",\"B\",\"C\",\"D\"\"\r\n", ""},
+      {NamesFile, "\"A\",\"B\0\",\"C\",\"D\"\r\n"s, ""},
+  };
+  for (const auto& example : cases) {
+    const RecordVerdict verdict = TrySoundly(DoorOf(example.file), example.content);
+    const std::string savedAs = example.savedAs.empty() ? "" : example.savedAs + "\r\n";
+    EXPECT_EQ(verdict.savedAs, savedAs) << example.file << " holding " << example.content;
+  }
+}
+
+// A record needs no line end, so that a last field that has no mark of its own end may be cut.
+TEST(Records, SurviveEveryCutAndEveryChangedByte) {
+  const struct {
+    std::string_view file;
+    std::string record;
+    std::set<std::size_t> taken;  // lengths
+  } samples[] = {
+      {NamesFile, "\"Ann\",\"Be, a\",\"\",\"D\xC3\xA9\"\r\n", {17, 22, 24}},
+      {PointsFile, "100,200\r\n", {5, 6, 7, 9}},
+      {SaveGameFile, "120,-35,#TRUE#\r\n", {14, 16}},
+      {WelcomeFile, "#FALSE#\r\n", {7, 9}},
+  };
+  for (const auto& [file, record, taken] : samples) {
+    for (std::size_t length = 0; length <= record.size(); ++length)
+      EXPECT_EQ(TrySoundly(DoorOf(file), record.substr(0, length)).accepted, taken.contains(length))
+          << file << " cut to " << length;
+    for (std::size_t place = 0; place < record.size(); ++place)
+      for (int byte = 0; byte < 256; ++byte) {
+        std::string changed = record;
+        changed[place] = static_cast<char>(byte);
+        TrySoundly(DoorOf(file), changed);
+      }
+  }
+}
+
+// What is too long to be read is kept, and nothing is saved that would be too long.
+TEST(Records, HaveALongestLength) {
+  const std::string quoted = "\"\",\"\",\"\",\"\"\r\n";
+  const struct {
+    std::string record;
+    bool isRead;
+    bool isSaved;
+  } cases[] = {
+      {"\"" + std::string(LongestRecord - quoted.size(), 'x') + quoted.substr(1), true, true},
+      {std::string(LongestRecord - 3, 'x') + ",,,", true, false},
+      {std::string(LongestRecord - 2, 'x') + ",,,", false, true},
+      {std::string(5 * LongestRecord, ','), false, true},
+  };
+  const fs::path folder = fs::path(testing::TempDir()) / "parlino-longest-record";
+  for (const auto& example : cases) {
+    fs::remove_all(folder);
+    fs::create_directories(folder);
+    std::ofstream(folder / NamesFile, std::ios::binary) << example.record;
+    HeadlessInFolder platform(folder);
+    UsePlatform(platform);
+    PlayerName = "kept";
+    try {
+      ReadNames();
+    } catch (const GameError& error) {
+      EXPECT_EQ(error.what(), "Names2.dat cannot be read: File too large"s);
+    }
+    EXPECT_EQ(PlayerName != "kept", example.isRead);
+    EXPECT_EQ(SaveNames(), example.isSaved);
+    EXPECT_EQ(fs::file_size(folder / NamesFile) == example.record.size(), example.isRead);
+    const fs::path aside = folder / "Names2.dat.bad";
+    EXPECT_EQ(fs::exists(aside) && fs::file_size(aside) == example.record.size(), !example.isRead);
+  }
+  fs::remove_all(folder);
+}
+
+TEST(Records, AreSoundOnWhatFuzzingFound) {
+  int files = 0;
+  for (const auto& entry :
+       fs::directory_iterator(fs::path(PARLINO_SOURCE_FOLDER) / "tests/fuzz/corpus/records")) {
+    std::ifstream file(entry.path(), std::ios::binary);
+    const std::string content{std::istreambuf_iterator<char>(file), {}};
+    for (const RecordDoor& door : RecordDoors) TrySoundly(door, content);
+    ++files;
+  }
+  EXPECT_GT(files, 0);
+}
+
+}  // namespace
+}  // namespace Parlino
