@@ -58,6 +58,9 @@ HelpText::HelpText(QWidget* parent) : QTextEdit(parent), level_(PlainSize) {
   setFocusPolicy(Qt::StrongFocus);
   setTabChangesFocus(true);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  // A bar's menu would run a loop of the toolkit's own, and the game would stand still meanwhile.
+  verticalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);
+  horizontalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);
   setPalette(PaperColours(palette()));
   document()->setDefaultFont(TextFont(12));
   document()->setDocumentMargin(Margin);

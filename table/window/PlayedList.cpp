@@ -22,7 +22,8 @@ class PlayedLines : public QAbstractListModel {
   }
 
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
-    return role == Qt::DisplayRole ? lines_.at(index.row()) : QVariant();
+    // The view also asks for the current line where there is none.
+    return role == Qt::DisplayRole && index.isValid() ? lines_.at(index.row()) : QVariant();
   }
 
   void Follow(const ListBox& list) {
@@ -72,6 +73,8 @@ PlayedList::PlayedList(QWidget* parent) : QListView(parent), lines_(new PlayedLi
   colours.setColor(QPalette::Text, Colours::White);
   setPalette(colours);
   verticalScrollBar()->setPalette(QApplication::palette());
+  // Its menu would run a loop of the toolkit's own, and the game would stand still meanwhile.
+  verticalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);
 }
 
 // The frame; the lines are painted by the viewport inside it.

@@ -133,7 +133,10 @@ ScreenSize QtPlatform::Screen() {
 }
 
 void QtPlatform::CloseWindow(WindowName window) {
-  if (window == WindowName::FrmMain) table_.hide();
+  if (window == WindowName::FrmMain) {
+    CloseMenus();
+    table_.hide();
+  }
   if (window == WindowName::MFormDeluxe) message_.reset();
   helpAndAbout_.Close(window);
 }

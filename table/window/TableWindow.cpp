@@ -31,6 +31,9 @@ TableWindow::TableWindow(PendingEvents& pending) : pending_(pending), table_(new
   layout->setMenuBar(menus);
   layout->addWidget(table_, 0, Qt::AlignLeft | Qt::AlignTop);
   BuildTable();
+  // In less room the bar would put menus behind a button, whose menu runs a loop of the toolkit's
+  // own: the game would stand still meanwhile.
+  setMinimumWidth(menus->sizeHint().width());
   resize(ClientSize + QSize(0, menus->sizeHint().height()));
 }
 

@@ -49,6 +49,18 @@ TEST(Closing, ExitWithoutAGameInProgressAsksNothing) {
             0);
 }
 
+TEST(Closing, AnOpenMenuGoesWithTheTable) {
+  WindowGame game;
+  EXPECT_EQ(game.Run([] {
+    PressKey(Qt::Key_P, Qt::AltModifier);
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    QEvent quit(QEvent::Quit);
+    QApplication::sendEvent(qApp, &quit);
+  }),
+            0);
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
 // Also while a box is open, where no event of the table is raised.
 TEST(Closing, TheEndOfTheSessionEndsTheProgramAtOnce) {
   for (const bool isBoxOpen : {false, true}) {

@@ -110,6 +110,12 @@ TEST_F(Mirror, TheListStartsAgainWithEveryHand) {
   EXPECT_EQ(list.model()->index(0, 0).data().toString(), "first");
 }
 
+TEST_F(Mirror, TheListCanBeCopiedFromWithoutALineChosen) {
+  game.Find("LstCardsPlayed").setFocus();
+  PressKey(Qt::Key_Insert, Qt::ControlModifier);
+  EXPECT_FALSE(dynamic_cast<QListView&>(game.Find("LstCardsPlayed")).currentIndex().isValid());
+}
+
 // Counts what is painted in the window and all its children.
 class PaintCounter : public QObject {
  public:

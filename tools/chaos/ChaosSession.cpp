@@ -43,10 +43,14 @@ void ChaosSession::Do(const Deed& deed) {
     if (item == MenuItem::MnuLoad) watch.ExpectLoad();
     if (item == MenuItem::ErasePoints) watch.ExpectErasing();
   }
-  ++deedsDone_;
-  if (log_.size() == LogLength) log_.pop_front();
-  log_.push_back(TextOf(deed));
+  Note(TextOf(deed));
   if (doDeed_(deed)) ++deedsTaken_;
+}
+
+void ChaosSession::Note(const std::string& event) {
+  ++eventsRaised_;
+  if (log_.size() == LogLength) log_.pop_front();
+  log_.push_back(event);
 }
 
 void ChaosSession::OnMsgBox(std::string_view text) {
@@ -83,7 +87,7 @@ void ChaosSession::PrintFigures(std::ostream& out) const {
       << "hands scored      " << watch.HandsScored() << "\n"
       << "games ended       " << watch.GamesEnded() << "\n"
       << "chances to act    " << chances_ << "\n"
-      << "events raised     " << deedsDone_ << "\n"
+      << "events raised     " << eventsRaised_ << "\n"
       << "of these taken    " << deedsTaken_ << "\n"
       << "deepest nesting   " << deepest_ << "\n";
 }

@@ -27,11 +27,17 @@ class ChaosSession {
   // A chance to process events, `depth` of them inside each other: some deeds, each followed by a
   // look at every rule.
   void OnChance(int depth);
+  // A look at every rule, `depth` as above.
+  void CheckRules(int depth);
+  // Something is done that is no deed; and how the deed noted last is done.
+  void Note(const std::string& event);
+  void AddToNote(const std::string& manner) { log_.back() += ", " + manner; }
   // A box tells the player something.
   void OnMsgBox(std::string_view text);
   // The program has ended: nothing that is done now may change anything.
   void OnEnd();
 
+  [[nodiscard]] int ProgramsBegun() const { return programs_; }
   // A rule of the platform's own.
   void Require(bool holds, const std::string& rule) const;
   // What was done last, and what has been done altogether.
@@ -42,12 +48,11 @@ class ChaosSession {
   HandWatch watch;
 
  private:
-  void CheckRules(int depth);
   void Do(const Deed& deed);
 
   std::function<bool(const Deed&)> doDeed_;
   std::deque<std::string> log_;
-  long deedsDone_ = 0;
+  long eventsRaised_ = 0;
   long deedsTaken_ = 0;
   long chances_ = 0;
   int programs_ = 0;

@@ -1,0 +1,35 @@
+// The window's platform with a person who does anything. Time and clock are virtual.
+#pragma once
+
+#include "tests/window/WindowGame.h"
+#include "tools/chaos/ChaosSession.h"
+
+namespace Parlino {
+
+class ChaosPlatform : public QuickPlatform {
+ public:
+  // The person is to be set; it is asked with everything shown as it stands.
+  ChaosPlatform(const std::filesystem::path& folder, ChaosSession& session)
+      : QuickPlatform(folder), session_(session) {}
+
+  // Of what waits inside each other, and the boxes among it.
+  [[nodiscard]] int Depth() const { return depth_; }
+  [[nodiscard]] int BoxesOpen() const { return boxesOpen_; }
+
+  void ProcessEvents(std::uint32_t atMostMs) override;
+  double ClockSeconds() override;
+  std::string InputBox(std::string_view prompt, std::string_view title,
+                       std::string_view defaultAnswer) override;
+  void MsgBox(std::string_view text, std::string_view title, bool critical) override;
+
+ protected:
+  void WaitForToolkit(std::uint32_t atMostMs) override;
+
+ private:
+  ChaosSession& session_;
+  int depth_ = 0;
+  int boxesOpen_ = 0;
+  double clockAtStart_ = 43'200;
+};
+
+}  // namespace Parlino

@@ -1,0 +1,145 @@
+#include "tools/chaos/window/Fingers.h"
+
+#include <algorithm>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QInputMethodEvent>
+#include <QPointer>
+#include <QWindow>
+
+namespace Parlino {
+namespace {
+
+QWidget* WhatHasTheFocus() {
+  QWidget* window = QApplication::activePopupWidget();
+  if (window == nullptr) window = QApplication::activeModalWidget();
+  if (window == nullptr) window = QApplication::activeWindow();
+  if (window == nullptr) return nullptr;
+  return window->focusWidget() != nullptr ? window->focusWidget() : window;
+}
+
+// What a keyboard sends along with the key.
+QString TextOf(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  if (key == Qt::Key_Return || key == Qt::Key_Enter) return "\r";
+  if (key == Qt::Key_Tab) return "\t";
+  if (key > 0xFF) return {};
+  const QChar letter(key);
+  return modifiers.testFlag(Qt::ShiftModifier) ? letter : letter.toLower();
+}
+
+}  // namespace
+
+// A desktop's event finds its widget through the window, which a box in front of it may block.
+// Straight to the widget come those that were on their way when the box opened.
+void Fingers::Touch(QTest::MouseAction action, QWidget* widget, Qt::MouseButton button,
+                    QPoint spot) {
+  QWindow* window = widget->window()->windowHandle();
+  if (isThroughWindow_ && window != nullptr && widget->isVisible())
+    QTest::mouseEvent(action, window, button, {}, widget->mapTo(widget->window(), spot));
+  else
+    QTest::mouseEvent(action, widget, button, {}, spot);
+}
+
+QPoint Fingers::AnySpot(const QWidget& widget) {
+  const int right = widget.width() - 1;
+  const int bottom = widget.height() - 1;
+  switch (Person().NextBelow(6)) {
+    case 0:
+      return {0, bottom};
+    case 1:
+      return {right, Person().NextBelow(bottom + 1)};
+    case 2:
+      return {right + 1, bottom / 2};
+    case 3:
+      return {Person().NextBelow(600) - 300, Person().NextBelow(600) - 300};
+    default:
+      return {Person().NextBelow(std::max(1, right)), Person().NextBelow(std::max(1, bottom))};
+  }
+}
+
+bool Fingers::ClickAt(QWidget& widget, QPoint spot) {
+  const QPointer<QWidget> target(&widget);
+  const bool isSeen = widget.isVisible();
+  isThroughWindow_ = Person().Once(2);
+  Touch(QTest::MousePress, target, Qt::LeftButton, spot);
+  if (target != nullptr) Touch(QTest::MouseRelease, target, Qt::LeftButton, spot);
+  return isSeen;
+}
+
+bool Fingers::Click(QWidget& widget) {
+  if (Person().Once(5)) return Fumble(widget);
+  constexpr int seenLeft = 8;
+  return ClickAt(widget, {std::min(seenLeft, widget.width() / 2), widget.height() / 2});
+}
+
+bool Fingers::Fumble(QWidget& widget) {
+  constexpr QTest::MouseAction actions[] = {QTest::MousePress, QTest::MouseRelease,
+                                            QTest::MouseDClick, QTest::MouseMove};
+  constexpr Qt::MouseButton buttons[] = {Qt::LeftButton, Qt::LeftButton, Qt::RightButton,
+                                         Qt::MiddleButton, Qt::BackButton};
+  const QPointer<QWidget> target(&widget);
+  const bool isSeen = widget.isVisible();
+  isThroughWindow_ = Person().Once(2);
+  for (int count = 1 + Person().NextBelow(4); count > 0 && target != nullptr; --count) {
+    const QTest::MouseAction action = actions[Person().NextBelow(4)];
+    const int button = Person().NextBelow(5);
+    const QPoint spot = AnySpot(widget);
+    session_.AddToNote(QString("mouse action %1 of button %2 at %3 %4")
+                           .arg(action)
+                           .arg(button)
+                           .arg(spot.x())
+                           .arg(spot.y())
+                           .toStdString());
+    Touch(action, target, buttons[button], spot);
+  }
+  return isSeen;
+}
+
+bool Fingers::Move(QWidget& widget) {
+  isThroughWindow_ = Person().Once(2);
+  const bool isSeen = widget.isVisible();
+  Touch(QTest::MouseMove, &widget, Qt::NoButton, AnySpot(widget));
+  return isSeen;
+}
+
+// A key that goes down may close the window; what comes then comes for nobody.
+void Fingers::Strike(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  const QPointer<QWidget> focus = WhatHasTheFocus();
+  if (focus == nullptr) return;
+  const QPointer<QWindow> window = focus->window()->windowHandle();
+  const bool isThroughWindow = Person().Once(2) && window != nullptr && focus->isVisible();
+  const auto send = [&](bool isDown, Qt::Key code, const QString& text) {
+    if (isThroughWindow && window != nullptr)
+      QTest::simulateEvent(window.data(), isDown, code, modifiers, text, false);
+    else if (!isThroughWindow && focus != nullptr)
+      QTest::simulateEvent(focus.data(), isDown, code, modifiers, text, false);
+  };
+  const bool isAlt = modifiers.testFlag(Qt::AltModifier);  // opens the menus by itself
+  if (isAlt) send(true, Qt::Key_Alt, {});
+  send(true, key, TextOf(key, modifiers));
+  send(false, key, TextOf(key, modifiers));
+  if (isAlt) send(false, Qt::Key_Alt, {});
+}
+
+void Fingers::Write(const QString& text) {
+  QWidget* focus = WhatHasTheFocus();
+  if (focus == nullptr) return;
+  const bool hasInputMethod = focus->testAttribute(Qt::WA_InputMethodEnabled);
+  switch (Person().NextBelow(hasInputMethod ? 3 : 2)) {
+    case 0:
+      for (const QChar letter : text.left(30))
+        Strike(static_cast<Qt::Key>(letter.toUpper().unicode()),
+               letter.isUpper() ? Qt::ShiftModifier : Qt::NoModifier);
+      return;
+    case 1:
+      QApplication::clipboard()->setText(text);
+      return Strike(Qt::Key_V, Qt::ControlModifier);
+    default:
+      QInputMethodEvent event;
+      event.setCommitString(text);
+      QApplication::sendEvent(focus, &event);
+  }
+}
+
+}  // namespace Parlino

@@ -1,0 +1,139 @@
+#include "tools/chaos/window/TableWatch.h"
+
+#include <unordered_map>
+
+#include <QAbstractItemModel>
+#include <QListView>
+
+#include "engine/GameState.h"
+#include "table/window/Design.h"
+#include "table/window/Pictures.h"
+#include "table/window/SpokenNames.h"
+#include "table/window/TableParts.h"
+#include "tests/window/WindowGame.h"
+
+namespace Parlino {
+
+TableWatch::TableWatch() {
+  TellCards();
+  TellScores();
+  TellList();
+  Tell("Shape1", Table.Shape1);
+  Tell("WelcomeGround", Table.LblIntro);
+  for (int seat = Player; seat <= East; ++seat)
+    TellCaption(MemberName("LblName", seat), Table.LblName[seat], true);
+  TellCaption("LblInfo", Table.LblInfo);
+  TellCaption("LblTrumps", Table.LblTrumps);
+  TellCaption("lblTitle", Table.lblTitle);
+  TellCaption("LblIntro", Table.LblIntro);
+  TellCaption("CmdDontShow", Table.CmdDontShow);
+  for (int panel = 1; panel <= 3; ++panel)
+    TellCaption(MemberName("StatusBar1", panel), Table.StatusBar1[panel]);
+}
+
+void TableWatch::Tell(const QString& name, const Control& control, bool hasPlace) {
+  ties_.push_back({name, &control, &WindowGame::Find(name), [] { return true; }, hasPlace});
+}
+
+void TableWatch::TellCaption(const QString& name, const Label& label, bool hasPlace) {
+  Tell(name, label, hasPlace);
+  ties_.back().isShown = [widget = ties_.back().widget, &label] {
+    return widget->property("text").toString() == ToText(label.Caption);
+  };
+}
+
+void TableWatch::TellPicture(const QString& name, const PictureBox& box, bool hasPlace,
+                             QString (*spoken)(Integer picture)) {
+  Tell(name, box, hasPlace);
+  ties_.back().isShown = [widget = ties_.back().widget, &box, spoken] {
+    return widget->accessibleName() == spoken(box.Picture) &&
+           (box.Picture == 0 || widget->size() == PictureSize(box.Picture)) &&
+           widget->toolTip() == PlainToolTip(ToText(box.ToolTipText)) &&
+           widget->testAttribute(Qt::WA_SetCursor) == (box.MousePointer != 0);
+  };
+}
+
+void TableWatch::TellCards() {
+  for (int card = 1; card <= CardsInPack; ++card)
+    TellPicture(MemberName("Cds", card), Table.Cds[card], true, SpokenCard);
+  TellPicture("imgtrumps", Table.imgtrumps, false, SpokenTrumps);
+  for (int trick = 1; trick <= TricksInHand; ++trick) {
+    Tell(MemberName("ImgBackP", trick), Table.ImgBackP[trick]);
+    Tell(MemberName("ImgBackWest", trick), Table.ImgBackWest[trick]);
+    Tell(MemberName("ImgBackNorth", trick), Table.ImgBackNorth[trick]);
+    Tell(MemberName("ImgBackEast", trick), Table.ImgBackEast[trick]);
+  }
+}
+
+void TableWatch::TellScores() {
+  Tell("FramBids", Table.FramBids);
+  for (int bid = 1; bid <= TricksInHand; ++bid)
+    TellCaption(MemberName("LblBids", bid), Table.LblBids[bid]);
+  Tell("FramScores", Table.FramScores);
+  TellCaption("LblPBid", Table.LblPBid);
+  TellCaption("LblWBid", Table.LblWBid);
+  TellCaption("LblNBid", Table.LblNBid);
+  TellCaption("LblEBid", Table.LblEBid);
+  TellCaption("LblPNBid", Table.LblPNBid);
+  TellCaption("LblWEBid", Table.LblWEBid);
+  TellCaption("LblPTricks", Table.LblPTricks);
+  TellCaption("LblWTricks", Table.LblWTricks);
+  TellCaption("LblNTricks", Table.LblNTricks);
+  TellCaption("LblETricks", Table.LblETricks);
+  TellCaption("LblPNMade", Table.LblPNMade);
+  TellCaption("LblWEMade", Table.LblWEMade);
+}
+
+void TableWatch::TellList() {
+  Tell("LstCardsPlayed", Table.LstCardsPlayed);
+  const auto& lines = *dynamic_cast<QListView&>(*ties_.back().widget).model();
+  ties_.back().isShown = [&lines] {
+    const ListBox& list = Table.LstCardsPlayed;
+    if (lines.rowCount() != list.Count()) return false;
+    for (int place = 0; place < list.Count(); ++place)
+      if (lines.index(place, 0).data().toString() != ToText(list.Line(place))) return false;
+    return true;
+  };
+}
+
+// What was brought to the front later lies in front; the information line in front of all.
+bool TableWatch::LayersAreInOrder() const {
+  std::unordered_map<const QObject*, std::uint32_t> layers;
+  for (const Tie& tie : ties_) layers.emplace(tie.widget, tie.control->Layer);
+  layers.erase(&WindowGame::Find("LblInfo"));
+  std::uint32_t behind = 0;
+  for (const QObject* widget : WindowGame::Find("Table").children()) {
+    const auto layer = layers.find(widget);
+    if (layer == layers.end()) continue;
+    if (layer->second < behind) return false;
+    behind = layer->second;
+  }
+  return true;
+}
+
+std::string TableWatch::Look(bool nothingGlides) const {
+  for (const Tie& tie : ties_) {
+    if (tie.widget->isHidden() == tie.control->Visible || !tie.isShown() ||
+        (tie.hasPlace && nothingGlides && tie.widget->pos() != ToPixels(tie.control->Place)))
+      return tie.name.toStdString();
+  }
+  return LayersAreInOrder() ? std::string() : "the layer of a control";
+}
+
+// The corners of a picture are round and show what lies below.
+std::string TableWatch::LookAtFace(int card) const {
+  constexpr int corner = 8;
+  const PictureBox& box = Table.Cds[card];
+  if (!box.Visible || box.Picture == 0) return {};
+  const Tie& tie = ties_[static_cast<std::size_t>(card - 1)];
+  const auto inner = [](const QPixmap& picture) {
+    const QRect all(QPoint(0, 0), picture.size());
+    return picture.copy(all.adjusted(corner, corner, -corner, -corner))
+        .toImage()
+        .convertToFormat(QImage::Format_RGB32);
+  };
+  const QPixmap expected = CardPicture(box.Picture, tie.widget->devicePixelRatioF());
+  return inner(tie.widget->grab()) == inner(expected) ? std::string() : tie.name.toStdString();
+}
+
+}  // namespace Parlino

@@ -1,0 +1,154 @@
+#include "tools/chaos/window/WindowChaos.h"
+
+#include <iostream>
+#include <unistd.h>
+
+#include <QAbstractEventDispatcher>
+#include <QApplication>
+#include <QDrag>
+
+#include "engine/Generator.h"
+#include "persistence/DataFiles.h"
+#include "persistence/PlayerCommands.h"
+#include "table/HelpAndAbout.h"
+#include "table/TableEvents.h"
+#include "tools/chaos/window/WindowRules.h"
+
+namespace Parlino {
+namespace {
+
+// The saved game and the statistics may change from the moment the game takes up the command,
+// which may have come by any key.
+HandWatch* watchInUse = nullptr;
+
+void WatchLoading() {
+  watchInUse->ExpectLoad();
+  MnuLoad_Click();
+}
+
+void WatchErasing() {
+  watchInUse->ExpectErasing();
+  ErasePoints_Click();
+}
+
+void WriteHelp(Platform& platform) {
+  std::string text = "{\\rtf1 Bid, and make your bid.";
+  for (int line = 0; line < 100; ++line)
+    text.append("\\par Line ").append(std::to_string(line)).append(" of the rules: bid.");
+  platform.ReplaceFile(HelpFile, text + "}");
+}
+
+}  // namespace
+
+WindowChaos::WindowChaos(int hands, std::uint64_t seed)
+    : hands_(hands),
+      session_(seed, [this](const Deed& deed) { return Do(deed); }),
+      trouble_(folder_.path().toStdString()) {
+  DealGenerator.Seed(seed);
+  watchInUse = &session_.watch;
+  QCoreApplication::instance()->installEventFilter(&timerStopper_);
+  // A loop of the toolkit's own would wait for a person who is inside it. Without an answer to a
+  // drag or a menu it ends at once.
+  QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
+                   [this] {
+                     if (!isActing_) return;
+                     hasLoopOfItsOwn_ = QApplication::activePopupWidget() != nullptr;
+                     while (QWidget* menu = QApplication::activePopupWidget()) menu->close();
+                     QDrag::cancel();
+                   });
+}
+
+int WindowChaos::Play() {
+  try {
+    while (session_.watch.HandsScored() < hands_) PlayProgram();
+  } catch (const RuleBroken& broken) {
+    Tell("broken rule: " + broken.rule);
+    return 1;
+  } catch (const std::exception& error) {
+    Tell(std::string("an error left the program: ") + error.what());
+    return 1;
+  }
+  session_.PrintFigures(std::cout);
+  return 0;
+}
+
+void WindowChaos::Tell(const std::string& rule) const {
+  std::cout << rule << "\nin hand " << session_.watch.HandsDealt() << ", after these events:\n";
+  session_.PrintLog(std::cout);
+  std::cout.flush();
+}
+
+void WindowChaos::SetUpProgram() {
+  trouble_.End();
+  watch_.reset();
+  const bool isFirst = !platform_.has_value();
+  platform_.reset();
+  platform_.emplace(folder_.path().toStdString(), session_);
+  SetUpGame(*platform_);
+  Events.MenuClick[static_cast<int>(MenuItem::MnuLoad)] = WatchLoading;
+  Events.MenuClick[static_cast<int>(MenuItem::ErasePoints)] = WatchErasing;
+  if (isFirst) {
+    WriteFirstRecords();
+    WriteHelp(*platform_);
+  }
+  watch_.emplace();
+  platform_->Motion().Allow(session_.person.Once(4));
+  calmness_ = session_.person.Once(2) ? 3 : 60;
+  platform_->person = [this] { Act(); };
+  session_.BeginProgram();
+}
+
+// From the start to the end that the person brings about.
+void WindowChaos::PlayProgram() {
+  SetUpProgram();
+  try {
+    RunGame();
+  } catch (const EnoughHands&) {
+    return;
+  }
+  session_.Require(!IsAnyWindowThere(), "no window is on the screen after the end of the program");
+  session_.OnEnd();
+  QCoreApplication::processEvents();
+  session_.Require(!IsAnyWindowThere(), "no window comes back after the end of the program");
+}
+
+void WindowChaos::Act() {
+  if (session_.watch.HandsScored() >= hands_) throw EnoughHands{};
+  LookForHang();
+  CheckWhatIsShown();
+  if (session_.person.Once(3000)) trouble_.Begin(session_.person);
+  if (session_.person.Once(300)) trouble_.End();
+  const std::uint64_t changes = Table.Changes;
+  isActing_ = true;
+  session_.OnChance(platform_->Depth());
+  isActing_ = false;
+  session_.Require(Table.Changes == changes, "the toolkit alone changes nothing in the model");
+  session_.Require(!hasLoopOfItsOwn_, "the toolkit runs no loop that the game would wait for");
+}
+
+void WindowChaos::CheckWhatIsShown() {
+  const bool nothingGlides = platform_->Motion().MsToNextFrame(platform_->Ticks()) == Forever;
+  const int card = 1 + session_.person.NextBelow(CardsInPack);
+  for (const std::string& control : {watch_->Look(nothingGlides), watch_->LookAtFace(card)})
+    session_.Require(control.empty(), "the window shows the model, but not " + control);
+  const std::string broken = BrokenWindowRule(platform_->BoxesOpen());
+  session_.Require(broken.empty(), broken);
+}
+
+bool WindowChaos::Do(const Deed& deed) {
+  const bool isTaken = deeds_.Do(deed);
+  if (session_.person.Once(calmness_)) pranks_.Play();
+  return isTaken;
+}
+
+// The alarm rings a minute after the last hand dealt or scored or program begun.
+void WindowChaos::LookForHang() {
+  constexpr unsigned secondsOfPatience = 60;
+  const HandWatch& watch = session_.watch;
+  const int progress = watch.HandsDealt() + watch.HandsScored() + session_.ProgramsBegun();
+  if (progress == progress_) return;
+  progress_ = progress;
+  alarm(secondsOfPatience);
+}
+
+}  // namespace Parlino
