@@ -100,8 +100,7 @@ void ReadWelcome() {
 }
 
 void WriteFirstRecords() {
-  for (const FirstRecord& first : FirstRecords)
-    ThePlatform().ReplaceFile(first.file, first.record);
+  for (const FirstRecord& first : FirstRecords) ThePlatform().ReplaceFile(first.file, first.record);
 }
 
 void UseFirstRecord(std::string_view file) {

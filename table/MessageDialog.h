@@ -26,7 +26,7 @@ struct ButtonFace {
 struct MessageDialogView {
   bool Visible = false;
   bool IsWaiting = false;  // from the showing until the game goes on with the answer
-  int Left = 0;  // of the window on the screen, twips
+  int Left = 0;            // of the window on the screen, twips
   int Top = 0;
   int Width = 4500;
   int Height = 2000;
