@@ -55,6 +55,11 @@ bool WriteAll(int descriptor, std::string_view content) {
   return true;
 }
 
+// A disk that cannot flush a file says so by EINVAL; it has taken the content all the same.
+bool FlushFile(int descriptor) {
+  return ::fsync(descriptor) == 0 || errno == EINVAL;
+}
+
 void FlushFolder(const fs::path& folder) {
   const Descriptor descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (descriptor.IsOpen()) ::fsync(descriptor.Number());
@@ -111,9 +116,8 @@ std::string WriteTemporary(std::string_view fileName, const fs::path& path,
   Descriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
   if (!file.IsOpen()) RaiseSystemError(fileName, "written", errno);
   constexpr mode_t readableByAll = 0644;
-  const bool written = WriteAll(file.Number(), content) &&
-                       ::fchmod(file.Number(), readableByAll) == 0 && ::fsync(file.Number()) == 0 &&
-                       file.Close();
+  static_cast<void>(::fchmod(file.Number(), readableByAll));  // not every disk knows permissions
+  const bool written = WriteAll(file.Number(), content) && FlushFile(file.Number()) && file.Close();
   if (written) return temporary;
   const int number = errno;
   ::unlink(temporary.c_str());
@@ -137,7 +141,7 @@ void FolderFiles::Replace(std::string_view fileName, std::string_view content) {
   const auto unread = unread_.find(fileName);
   try {
     if (unread != unread_.end() && IsThere(fileName, path, "written"))
-      MoveAside(fileName, "written");
+      KeepAside(fileName, "written");
     if (::rename(temporary.c_str(), path.c_str()) != 0)
       RaiseSystemError(fileName, "written", errno);
   } catch (const GameError&) {
@@ -145,23 +149,35 @@ void FolderFiles::Replace(std::string_view fileName, std::string_view content) {
     throw;
   }
   if (unread != unread_.end()) unread_.erase(unread);
-  FlushFolder(folder_);  // makes the rename outlast a power cut; the record is whole either way
+  FlushFolder(
+      path.parent_path());  // makes the rename outlast a power cut; the record is whole either way
   RemoveAbandoned(path);
 }
 
 void FolderFiles::SetAside(std::string_view fileName) {
   const auto unread = unread_.emplace(fileName).first;
-  MoveAside(fileName, "set aside");
+  const bool isStillThere = KeepAside(fileName, "set aside");
+  if (isStillThere && ::unlink((folder_ / fileName).c_str()) != 0)
+    RaiseSystemError(fileName, "set aside", errno);
   unread_.erase(unread);
 }
 
-void FolderFiles::MoveAside(std::string_view fileName, std::string_view action) const {
+// A second name for the file leaves no moment in which it has none and takes no name away from
+// another game. A disk that knows no second names renames it.
+bool FolderFiles::KeepAside(std::string_view fileName, std::string_view action) const {
   const fs::path path = folder_ / fileName;
   const std::string aside = path.string() + ".bad";
   std::string name = aside;
-  for (int number = 2; IsThere(fileName, name, action); ++number)
+  std::error_code ignored;
+  for (int number = 2; ::link(path.c_str(), name.c_str()) != 0; ++number) {
+    if (errno != EEXIST && !IsThere(fileName, name, action)) {
+      if (::rename(path.c_str(), name.c_str()) == 0) return false;
+      RaiseSystemError(fileName, action, errno);
+    }
+    if (fs::equivalent(path, name, ignored)) return true;
     name = aside + std::to_string(number);
-  if (::rename(path.c_str(), name.c_str()) != 0) RaiseSystemError(fileName, action, errno);
+  }
+  return true;
 }
 
 bool FolderFiles::Exists(std::string_view fileName) const {

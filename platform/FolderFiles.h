@@ -32,13 +32,14 @@ class FolderFiles {
   // content too long to be read again.
   void Replace(std::string_view fileName, std::string_view content);
 
-  // Renames the file to a free name: ".bad" is added, or ".bad2", ".bad3" and so on.
+  // Gives the file a free name: ".bad" is added, or ".bad2", ".bad3" and so on.
   void SetAside(std::string_view fileName);
 
   [[nodiscard]] bool Exists(std::string_view fileName) const;
 
  private:
-  void MoveAside(std::string_view fileName, std::string_view action) const;
+  // Returns whether the file has its old name as well.
+  bool KeepAside(std::string_view fileName, std::string_view action) const;
 
   std::filesystem::path folder_;
   std::set<std::string, std::less<>> unread_;  // names of files not read though asked for

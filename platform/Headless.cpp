@@ -112,9 +112,12 @@ void HeadlessPlatform::ReplaceFile(std::string_view fileName, std::string_view c
 }
 
 void HeadlessPlatform::SetFileAside(std::string_view fileName) {
-  auto file = files.extract(files.find(fileName));
-  file.key() += ".bad";
-  files.insert(std::move(file));
+  std::string content = ReadFile(fileName);
+  const std::string aside = std::string(fileName) + ".bad";
+  std::string name = aside;
+  for (int number = 2; files.contains(name); ++number) name = aside + std::to_string(number);
+  files.emplace(name, std::move(content));
+  files.erase(files.find(fileName));
 }
 
 bool HeadlessPlatform::FileExists(std::string_view fileName) {

@@ -1,6 +1,7 @@
 #include "table/TableView.h"
 
 #include "platform/Platform.h"
+#include "table/MessageDialog.h"
 
 namespace Parlino {
 namespace {
@@ -133,7 +134,9 @@ void UnloadAllForms() {
   for (const WindowName window :
        {WindowName::frmAbout, WindowName::MFormDeluxe, WindowName::FrmMain, WindowName::frmHelp})
     ThePlatform().CloseWindow(window);
-  Hide(Table.FrmMain);  // its doors are shut: no event is raised any more
+  // Their doors are shut: no event is raised any more.
+  Hide(Table.FrmMain);
+  MFormDeluxe.Visible = false;
   throw ProgramEnded{};
 }
 

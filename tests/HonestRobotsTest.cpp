@@ -18,7 +18,7 @@
 namespace Parlino {
 namespace {
 
-constexpr int Hands = 100;
+constexpr int Hands = 500;
 constexpr int Spreads = 20;
 
 // Owners and totals as they are now come back at the end: the hand goes on.

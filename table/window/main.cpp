@@ -1,4 +1,5 @@
 #include <chrono>
+#include <csignal>
 #include <random>
 
 #include <QApplication>
@@ -20,6 +21,7 @@ std::uint64_t FreshSeed() {
 }  // namespace
 
 int main(int, char* arguments[]) {
+  std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is an error of its saving
   int onlyTheProgramsName = 1;
   const QApplication application(onlyTheProgramsName, arguments);
   Parlino::QtPlatform platform(QApplication::applicationDirPath().toStdString());

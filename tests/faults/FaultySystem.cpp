@@ -63,6 +63,7 @@ int __real_fchmod(int file, mode_t mode);
 int __real_fstat(int file, struct stat* kind);
 int __real_lstat(const char* path, struct stat* kind);
 int __real_close(int file);
+int __real_link(const char* from, const char* to);
 int __real_rename(const char* from, const char* to);
 int __real_unlink(const char* path);
 
@@ -109,6 +110,10 @@ int __wrap_close(int file) {
   const int result = __real_close(file);
   errno = number;
   return fails ? -1 : result;
+}
+
+int __wrap_link(const char* from, const char* to) {
+  return CallFails("link") ? -1 : __real_link(from, to);
 }
 
 int __wrap_rename(const char* from, const char* to) {

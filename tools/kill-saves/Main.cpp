@@ -83,7 +83,8 @@ void KillASaver(const fs::path& folder, Progress& progress, useconds_t afterMicr
   ::kill(saver, SIGKILL);
   int status = 0;
   ::waitpid(saver, &status, 0);
-  if (!WIFSIGNALED(status)) throw KillFault("a record could not be saved");
+  if (!WIFSIGNALED(status) || WTERMSIG(status) != SIGKILL)
+    throw KillFault("a record could not be saved");
 }
 
 // A record that was in its place when the process died counts as saved from then on.
