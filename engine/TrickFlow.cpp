@@ -110,11 +110,14 @@ std::string GameOverPrompt(bool won) {
                          " against your team score of  ", OurPoints, ending});
 }
 
-// Whoever wants to leave is asked again when the game could not be counted on the disk.
+// The files are written before the answer as well, for the desktop may end the program while the
+// dialog waits. Whoever wants to leave is asked again when the game could not be counted on the
+// disk.
 void EndGame() {
   GameInProgress = False;
   const bool won = OurPoints > TheirPoints;
   CountGame(won);
+  SaveEndedGame();
   const std::string prompt = GameOverPrompt(won);
   while (true) {
     ShowMessage(prompt, "New Game", "Exit", "", won ? 1 : 2, "Game Over");

@@ -74,6 +74,14 @@ void ReadRecord(std::string_view file) {
   }
 }
 
+RecordWriter PointsRecord() {
+  return RecordWriter().Add(GamesWon).Add(GamesPlayed);
+}
+
+RecordWriter SaveGameRecord(Integer ours, Integer theirs, Flag inProgress) {
+  return RecordWriter().Add(ours).Add(theirs).AddFlag(inProgress);
+}
+
 bool WriteRecord(std::string_view file, const RecordWriter& record) {
   try {
     ThePlatform().ReplaceFile(file, record.Line());
@@ -109,12 +117,20 @@ void UseFirstRecord(std::string_view file) {
 }
 
 bool SaveGame() {
-  return WriteRecord(SaveGameFile,
-                     RecordWriter().Add(OurPoints).Add(TheirPoints).AddFlag(GameInProgress));
+  return WriteRecord(SaveGameFile, SaveGameRecord(OurPoints, TheirPoints, GameInProgress));
 }
 
 bool SavePoints() {
-  return WriteRecord(PointsFile, RecordWriter().Add(GamesWon).Add(GamesPlayed));
+  return WriteRecord(PointsFile, PointsRecord());
+}
+
+void SaveEndedGame() {
+  try {
+    ThePlatform().ReplaceFile(PointsFile, PointsRecord().Line());
+    ThePlatform().ReplaceFile(SaveGameFile, SaveGameRecord(0, 0, False).Line());
+  } catch (const GameError&) {
+    return;
+  }
 }
 
 bool SaveNames() {

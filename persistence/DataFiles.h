@@ -44,4 +44,8 @@ bool SavePoints();
 bool SaveNames();
 bool SaveWelcome();
 
+// Writes what SavePoints and SaveGame will write when the end of a game has been answered, while
+// its totals still stand. Says nothing when it cannot: the saving after the answer does.
+void SaveEndedGame();
+
 }  // namespace Parlino

@@ -14,6 +14,7 @@
 #include "table/TableEvents.h"
 #include "table/TableView.h"
 #include "tests/support/HeadlessGame.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace Parlino {
 namespace {
@@ -164,20 +165,10 @@ TEST(FirstRecords, AreWhatTheProgramIsInstalledWith) {
 
 class FolderFilesTest : public testing::Test {
  protected:
-  // Each test has a folder of its own: several may run at once.
-  FolderFilesTest()
-      : folder_(fs::path(testing::TempDir()) / "parlino-folder-files" /
-                testing::UnitTest::GetInstance()->current_test_info()->name()) {
-    fs::remove_all(folder_);
-    fs::create_directories(folder_);
-  }
-  ~FolderFilesTest() override { fs::remove_all(folder_); }
-  FolderFilesTest(const FolderFilesTest&) = delete;
-  FolderFilesTest& operator=(const FolderFilesTest&) = delete;
-
   int CountFiles() { return static_cast<int>(std::distance(fs::directory_iterator(folder_), {})); }
 
-  fs::path folder_;
+  TemporaryFolder temporary_;
+  const fs::path& folder_ = temporary_.Path();
 };
 
 TEST_F(FolderFilesTest, ReplaceAFileWholeAndLeaveNothingBeside) {

@@ -9,6 +9,7 @@
 #include "platform/HeadlessInFolder.h"
 #include "tests/support/HeadlessGame.h"
 #include "tests/support/RecordFaults.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace Parlino {
 namespace {
@@ -110,10 +111,9 @@ TEST(Records, HaveALongestLength) {
       {std::string(LongestRecord - 2, 'x') + ",,,", false, true},
       {std::string(5 * LongestRecord, ','), false, true},
   };
-  const fs::path folder = fs::path(testing::TempDir()) / "parlino-longest-record";
   for (const auto& example : cases) {
-    fs::remove_all(folder);
-    fs::create_directories(folder);
+    const TemporaryFolder temporary;
+    const fs::path& folder = temporary.Path();
     std::ofstream(folder / NamesFile, std::ios::binary) << example.record;
     HeadlessInFolder platform(folder);
     UsePlatform(platform);
@@ -129,7 +129,6 @@ TEST(Records, HaveALongestLength) {
     const fs::path aside = folder / "Names2.dat.bad";
     EXPECT_EQ(fs::exists(aside) && fs::file_size(aside) == example.record.size(), !example.isRead);
   }
-  fs::remove_all(folder);
 }
 
 TEST(Records, AreSoundOnWhatFuzzingFound) {

@@ -1,5 +1,6 @@
 // Whole hands and games through the table model, with its invariants looked at on the way.
 #include <gtest/gtest.h>
+#include <set>
 
 #include "engine/TrickFlow.h"
 #include "game/Game.h"
@@ -42,8 +43,13 @@ TEST(WholeGame, CallsDoNotNestOverAThousandHands) {
   HeadlessGame game(12);
   PlainPlayer player(1000, 1);
   game.platform.keepsRecord = false;
-  game.platform.script = [&](std::uint32_t atMostMs) { player.OnEvents(atMostMs); };
+  std::set<const void*> placesOnStack;
+  game.platform.script = [&](std::uint32_t atMostMs) {
+    if (MFormDeluxe.Visible) placesOnStack.insert(__builtin_frame_address(0));
+    player.OnEvents(atMostMs);
+  };
   EXPECT_EQ(RunGame(), 0);
+  EXPECT_LE(placesOnStack.size(), 2U) << "one for the scores, one for the end of a game";
   EXPECT_LE(game.platform.deepest, 3);
 }
 

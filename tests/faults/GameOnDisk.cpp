@@ -2,7 +2,6 @@
 
 #include <fstream>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include "engine/Generator.h"
 #include "game/Game.h"
@@ -13,37 +12,19 @@ namespace Parlino {
 
 namespace fs = std::filesystem;
 
-namespace {
-
-// A disk in memory takes hundreds of new folders in no time; any other will do.
-fs::path FolderOfFolders() {
-  const fs::path memory = "/dev/shm";
-  return ::access(memory.c_str(), W_OK) == 0 ? memory : fs::path(testing::TempDir());
-}
-
-}  // namespace
-
-// Several tests may run at once.
-TestFolder::TestFolder(const Disk& files)
-    : path_(FolderOfFolders() / ("parlino-faults-" + std::to_string(::getpid()))) {
-  fs::remove_all(path_);
-  fs::create_directories(path_);
+TestFolder::TestFolder(const Disk& files) {
   Write(HandWrittenRecords);
   Write(files);
 }
 
-TestFolder::~TestFolder() {
-  fs::remove_all(path_);
-}
-
 void TestFolder::Write(const Disk& files) const {
   for (const auto& [name, content] : files)
-    std::ofstream(path_ / name, std::ios::binary) << content;
+    std::ofstream(Path() / name, std::ios::binary) << content;
 }
 
 Disk TestFolder::Files() const {
   Disk files;
-  for (const auto& entry : fs::directory_iterator(path_)) {
+  for (const auto& entry : fs::directory_iterator(Path())) {
     std::ifstream file(entry.path(), std::ios::binary);
     files[entry.path().filename()] = {std::istreambuf_iterator<char>(file), {}};
   }

@@ -1,11 +1,11 @@
 // A game whose four files lie in a folder of the disk, made afresh for each try of a fault.
 #pragma once
 
-#include <filesystem>
 #include <map>
 #include <string>
 
 #include "platform/HeadlessInFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace Parlino {
 
@@ -20,21 +20,13 @@ inline const Disk HandWrittenRecords = {
     {"Welcome.dat", " #FALSE#\n"},
 };
 
-// A folder of the running test with those records, but for the files given; it goes when the test
-// does.
-class TestFolder {
+// A folder with those records, but for the files given.
+class TestFolder : public TemporaryFolder {
  public:
   explicit TestFolder(const Disk& files = {});
-  TestFolder(const TestFolder&) = delete;
-  TestFolder& operator=(const TestFolder&) = delete;
-  ~TestFolder();
 
   void Write(const Disk& files) const;
   [[nodiscard]] Disk Files() const;
-  [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
-
- private:
-  std::filesystem::path path_;
 };
 
 // The game itself, set up afresh; its record tells what the player saw.
