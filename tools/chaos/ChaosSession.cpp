@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "persistence/PlayerCommands.h"
 #include "table/TableEvents.h"
 #include "table/TableView.h"
 #include "tools/chaos/TableRules.h"
@@ -16,12 +17,32 @@ constexpr std::size_t LogLength = 40;
 // of a card, in it a dialog.
 constexpr int MostNested = 5;
 
+// Far more chances than the longest hand has.
+constexpr long MostChancesWithoutProgress = 100'000;
+
+// The saved game and the statistics may change from the moment the game takes up the command,
+// which may have come by any key.
+HandWatch* watchInUse = nullptr;
+
+void WatchLoading() {
+  watchInUse->ExpectLoad();
+  MnuLoad_Click();
+}
+
+void WatchErasing() {
+  watchInUse->ExpectErasing();
+  ErasePoints_Click();
+}
+
 }  // namespace
 
 ChaosSession::ChaosSession(std::uint64_t seed, std::function<bool(const Deed&)> doDeed)
     : person(seed), doDeed_(std::move(doDeed)) {}
 
 void ChaosSession::BeginProgram() {
+  watchInUse = &watch;
+  Events.MenuClick[static_cast<int>(MenuItem::MnuLoad)] = WatchLoading;
+  Events.MenuClick[static_cast<int>(MenuItem::ErasePoints)] = WatchErasing;
   watch.BeginProgram(programs_ > 0 && everythingWritten_);
   everythingWritten_ = true;
   ++programs_;
@@ -29,6 +50,7 @@ void ChaosSession::BeginProgram() {
 
 void ChaosSession::OnChance(int depth) {
   ++chances_;
+  LookForProgress();
   deepest_ = std::max(deepest_, depth);
   CheckRules(depth);
   for (int count = person.ChooseCount(); count > 0; --count) {
@@ -37,12 +59,14 @@ void ChaosSession::OnChance(int depth) {
   }
 }
 
+void ChaosSession::LookForProgress() {
+  const int progress = watch.HandsDealt() + watch.HandsScored() + programs_;
+  if (progress != progress_) chancesAtProgress_ = chances_;
+  progress_ = progress;
+  Require(chances_ - chancesAtProgress_ < MostChancesWithoutProgress, "the game goes on");
+}
+
 void ChaosSession::Do(const Deed& deed) {
-  if (deed.kind == DeedKind::ChooseMenu) {
-    const auto item = static_cast<MenuItem>(deed.number);
-    if (item == MenuItem::MnuLoad) watch.ExpectLoad();
-    if (item == MenuItem::ErasePoints) watch.ExpectErasing();
-  }
   Note(TextOf(deed));
   if (doDeed_(deed)) ++deedsTaken_;
 }
@@ -61,6 +85,7 @@ void ChaosSession::OnMsgBox(std::string_view text) {
 
 void ChaosSession::OnEnd() {
   const std::uint64_t changes = Table.Changes;
+  watch.EndProgram();
   const long takenBefore = deedsTaken_;
   for (int count = 0; count < 100; ++count) Do(person.ChooseDeed());
   Require(deedsTaken_ == takenBefore && Table.Changes == changes,

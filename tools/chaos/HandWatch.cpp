@@ -49,13 +49,22 @@ void HandWatch::BeginProgram(bool nothingLost) {
   gameOver_ = false;
 }
 
+// The saved game is written when a game is over and by "Save and Exit".
+void HandWatch::EndProgram() {
+  if (MFormDeluxe.Label3 != "   Scores" || MessageChoice != 1) return;
+  kept_.savedTotals = totals_;
+  kept_.savedInProgress = True;
+}
+
 std::string_view HandWatch::Look() {
   if (!WhatIsKeptIsThere()) return "what is kept is there when the program begins again";
   if (HandIsUnderWay() && TrumpSuit < Diamonds) isDealt_ = false;
   if (HandIsUnderWay() && TrumpSuit >= Diamonds && !isDealt_) NoteDeal();
+  if (isDealt_ && !isDealtWell_) return "thirteen cards for each seat, and what was loaded";
   if (isDealt_ && !ReadList()) return "the list tells a possible play";
   NoteScores();
   if (!CardsAreInOnePlaceEach()) return "each card is in one hand or has been played";
+  if (!BidsAreKept()) return "a bid stands once the tricks have begun";
   if (!TrickAgreesWithList()) return "the trick is the one of the list";
   if (!TricksAreTheReferees()) return "each trick went to its highest card";
   if (!TurnIsTheHumans()) return "the human's turn is open only where South plays";
@@ -79,7 +88,11 @@ void HandWatch::ExpectLoad() {
 void HandWatch::NoteDeal() {
   isDealt_ = true;
   isScored_ = false;
+  isDealtWell_ = !loaded_ || *loaded_ == totals_;
+  for (Integer seat = Player; seat <= East; ++seat)
+    isDealtWell_ = isDealtWell_ && HandOf(seat).Count() == CardsInSuit;
   loaded_.reset();
+  bids_.clear();
   mayErase_ = false;
   ++handsDealt_;
   for (int card = 1; card <= CardsInPack; ++card) dealtTo_[card] = Pack[card].Owner;
@@ -92,6 +105,7 @@ void HandWatch::NoteDeal() {
 
 bool HandWatch::ReadList() {
   const ListBox& list = Table.LstCardsPlayed;
+  if (bids_.empty() && TrickNumber > 0) bids_.assign(Bids.begin(), Bids.end());
   if (list.Count() < linesRead_) return false;
   for (; linesRead_ < list.Count(); ++linesRead_) {
     const int card = CardOfLine(list.Line(linesRead_));
@@ -134,13 +148,15 @@ void HandWatch::NoteScores() {
   if (isScored_ || !isDealt_ || (!gameOver && !IsOpen("   Scores"))) return;
   isScored_ = true;
   ++handsScored_;
-  handScore_ = {PointsFor(tricksWon_[Player] + tricksWon_[North], Bids[Player] + Bids[North]),
-                PointsFor(tricksWon_[West] + tricksWon_[East], Bids[West] + Bids[East])};
+  handScore_ = {PointsFor(tricksWon_[Player] + tricksWon_[North], bids_[Player] + bids_[North]),
+                PointsFor(tricksWon_[West] + tricksWon_[East], bids_[West] + bids_[East])};
   totals_.ours = ToInteger(totals_.ours + handScore_.ours);
   totals_.theirs = ToInteger(totals_.theirs + handScore_.theirs);
   if (!gameOver) return;
   gameOver_ = true;
   ++gamesEnded_;
+  kept_.savedTotals = {};
+  kept_.savedInProgress = False;
   if (totals_.ours > totals_.theirs) ++kept_.statistics.ours;
   ++kept_.statistics.theirs;
 }
@@ -150,6 +166,10 @@ bool HandWatch::CardsAreInOnePlaceEach() const {
   for (int card = 1; card <= CardsInPack; ++card)
     if (Pack[card].Owner != (isPlayed_[card] ? NoSeat : dealtTo_[card])) return false;
   return true;
+}
+
+bool HandWatch::BidsAreKept() const {
+  return !isDealt_ || bids_.empty() || !HandIsUnderWay() || std::ranges::equal(bids_, Bids);
 }
 
 bool HandWatch::TrickAgreesWithList() const {
@@ -175,7 +195,7 @@ bool HandWatch::TurnIsTheHumans() const {
 bool HandWatch::TotalsAreTheReferees() {
   const Pair now{OurPoints, TheirPoints};
   const bool gameEnds = gameOver_ && now == Pair{};
-  if (now != totals_ && loaded_ == now) {
+  if (loaded_ == now) {
     totals_ = now;
     loaded_.reset();
   }
@@ -188,7 +208,8 @@ bool HandWatch::TotalsAreTheReferees() {
 
 bool HandWatch::StatisticsAreTheReferees() {
   const Pair now{GamesWon, GamesPlayed};
-  if (mayErase_ && now != kept_.statistics && now == Pair{}) {
+  const bool isErasing = MFormDeluxe.Label3 == "   Delete statistics?" && MessageChoice == 0;
+  if (mayErase_ && isErasing && now == Pair{}) {
     kept_.statistics = {};
     mayErase_ = false;
   }
@@ -202,7 +223,8 @@ bool HandWatch::WhatIsKeptIsThere() {
   kept_.hideWelcome = HideWelcome;
   if (!std::exchange(programBegins_, false)) return true;
   kept_.statistics = {GamesWon, GamesPlayed};
-  totals_ = {OurPoints, TheirPoints};
+  totals_ = kept_.savedTotals = {OurPoints, TheirPoints};
+  kept_.savedInProgress = GameInProgress;
   return !nothingLost_ || kept_ == before;
 }
 

@@ -17,11 +17,14 @@ class HandWatch {
   // could be written the time before: names, statistics and the wish must then be as they were.
   void BeginProgram(bool nothingLost);
 
+  // The program has ended; what it has saved is remembered.
+  void EndProgram();
+
   // Looks at the table as it stands and returns the name of the first rule that is broken, or
   // nothing. To be asked at every chance to process events, or it loses the thread.
   std::string_view Look();
 
-  // The player is about to load the saved game, or to be asked whether to erase the statistics.
+  // The player loads the saved game, or is asked whether to erase the statistics.
   void ExpectLoad();
   void ExpectErasing() { mayErase_ = true; }
 
@@ -41,6 +44,8 @@ class HandWatch {
     std::vector<std::string> names;
     Pair statistics;  // games won and played
     Flag hideWelcome = False;
+    Pair savedTotals;
+    Flag savedInProgress = False;
     bool operator==(const Kept&) const = default;
   };
 
@@ -51,6 +56,7 @@ class HandWatch {
   void EndTrick();
 
   bool CardsAreInOnePlaceEach() const;
+  bool BidsAreKept() const;
   bool TrickAgreesWithList() const;
   bool TricksAreTheReferees() const;
   bool TurnIsTheHumans() const;
@@ -60,11 +66,13 @@ class HandWatch {
   bool ScoresAreShown() const;
 
   bool isDealt_ = false;
+  bool isDealtWell_ = false;
   bool isScored_ = false;
   Indexed<Integer, 1, CardsInPack> dealtTo_;
   Indexed<bool, 1, CardsInPack> isPlayed_;
   int linesRead_ = 0;
   std::vector<Integer> trick_;
+  std::vector<Integer> bids_;
   Integer leader_ = Player;
   Indexed<Integer, 0, 3> tricksWon_;
 

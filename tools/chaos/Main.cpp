@@ -7,6 +7,7 @@
 #include <string>
 
 #include "engine/Errors.h"
+#include "engine/GameState.h"
 #include "engine/Generator.h"
 #include "game/Game.h"
 #include "platform/Headless.h"
@@ -21,7 +22,8 @@ constexpr std::uint32_t AnHour = 3'600'000;
 
 class HeadlessChaos {
  public:
-  HeadlessChaos(int hands, std::uint64_t seed) : hands_(hands), session_(seed, DoAtTable) {
+  HeadlessChaos(int hands, std::uint64_t seed)
+      : hands_(hands), session_(seed, [this](const Deed& deed) { return Do(deed); }) {
     platform_.mostIdleCalls = 100'000;
     platform_.files.emplace("/parlino/ParlinoHelp.rtf", "{\\rtf1 Bid, and make your bid.}");
     platform_.script = [this](std::uint32_t atMostMs) { OnEvents(atMostMs); };
@@ -52,6 +54,13 @@ class HeadlessChaos {
     return 1;
   }
 
+  bool Do(const Deed& deed) {
+    const bool isTaken = DoAtTable(deed);
+    session_.Require(!isTaken || deed.kind != DeedKind::ClickBid || Bids[Player] == deed.number,
+                     "the bid is the one clicked");
+    return isTaken;
+  }
+
   // From the start to the end that the person brings about.
   void PlayProgram() {
     SetUpGame(platform_);
@@ -74,19 +83,33 @@ class HeadlessChaos {
           static_cast<std::uint32_t>(session_.person.NextBelow(static_cast<int>(atMostMs)));
   }
 
-  // The disk fills up and is emptied, the clock is set, the machine sleeps.
+  // The disk fills up and is emptied, the clock is set, the machine sleeps, the session ends.
   void DisturbPlatform() {
     ChaosPerson& person = session_.person;
-    if (person.Once(platform_.filesCanBeWritten ? 5000 : 500))
+    if (person.Once(platform_.filesCanBeWritten ? 5000 : 500)) {
       platform_.filesCanBeWritten = !platform_.filesCanBeWritten;
-    if (person.Once(1000))
+      session_.Note(platform_.filesCanBeWritten ? "the disk has room" : "the disk is full");
+    }
+    if (person.Once(1000)) {
       platform_.clockAtStart = static_cast<std::uint32_t>(person.NextBelow(86'400'000));
-    if (person.Once(5000)) platform_.ticks += AnHour;
+      session_.Note("the clock is set");
+    }
+    if (person.Once(5000)) {
+      platform_.ticks += AnHour;
+      session_.Note("the machine sleeps");
+    }
+    if (person.Once(20'000)) EndSession();
+  }
+
+  [[noreturn]] void EndSession() {
+    session_.Note("the session ends");
+    UnloadAllForms();
   }
 
   // The session of the desktop may end while a box waits.
   std::string AnswerBox() {
-    if (session_.person.Once(50)) UnloadAllForms();
+    if (session_.person.Once(50)) EndSession();
+    session_.Note("answer a box");
     return session_.person.ChooseName();
   }
 

@@ -9,27 +9,12 @@
 
 #include "engine/Generator.h"
 #include "persistence/DataFiles.h"
-#include "persistence/PlayerCommands.h"
 #include "table/HelpAndAbout.h"
 #include "table/TableEvents.h"
 #include "tools/chaos/window/WindowRules.h"
 
 namespace Parlino {
 namespace {
-
-// The saved game and the statistics may change from the moment the game takes up the command,
-// which may have come by any key.
-HandWatch* watchInUse = nullptr;
-
-void WatchLoading() {
-  watchInUse->ExpectLoad();
-  MnuLoad_Click();
-}
-
-void WatchErasing() {
-  watchInUse->ExpectErasing();
-  ErasePoints_Click();
-}
 
 void WriteHelp(Platform& platform) {
   std::string text = "{\\rtf1 Bid, and make your bid.";
@@ -45,7 +30,6 @@ WindowChaos::WindowChaos(int hands, std::uint64_t seed)
       session_(seed, [this](const Deed& deed) { return Do(deed); }),
       trouble_(folder_.path().toStdString()) {
   DealGenerator.Seed(seed);
-  watchInUse = &session_.watch;
   QCoreApplication::instance()->installEventFilter(&timerStopper_);
   // A loop of the toolkit's own would wait for a person who is inside it. Without an answer to a
   // drag or a menu it ends at once.
@@ -85,8 +69,6 @@ void WindowChaos::SetUpProgram() {
   platform_.reset();
   platform_.emplace(folder_.path().toStdString(), session_);
   SetUpGame(*platform_);
-  Events.MenuClick[static_cast<int>(MenuItem::MnuLoad)] = WatchLoading;
-  Events.MenuClick[static_cast<int>(MenuItem::ErasePoints)] = WatchErasing;
   if (isFirst) {
     WriteFirstRecords();
     WriteHelp(*platform_);
