@@ -110,12 +110,13 @@ TEST(WholeGame, EndsTheGameOnlyAtThreeHundredAndApart) {
     game.platform.files["SaveGame.dat"] =
         std::to_string(example.ours) + "," + std::to_string(example.theirs) + ",#TRUE#\r\n";
     PlainPlayer player(1, 1);
+    const bool over = example.picture != 3;
     player.onDialog = [&] {
       EXPECT_EQ(MFormDeluxe.Label3, example.title) << example.what;
       EXPECT_EQ(MFormDeluxe.Picture, example.picture) << example.what;
+      EXPECT_EQ(game.platform.files["Points.dat"] != "0,0\r\n", over) << "the session may end now";
     };
     PlayLookingOn(game, player);
-    const bool over = example.picture != 3;
     EXPECT_EQ(GamesPlayed, over ? 1 : 0) << example.what;
     EXPECT_EQ(GamesWon, example.picture == 1 ? 1 : 0) << example.what;
     if (over) {

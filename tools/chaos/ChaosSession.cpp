@@ -17,8 +17,8 @@ constexpr std::size_t LogLength = 40;
 // of a card, in it a dialog.
 constexpr int MostNested = 5;
 
-// Far more chances than the longest hand has.
-constexpr long MostChancesWithoutProgress = 100'000;
+// So many chances make some hundred hands; one of them at the least must be scored.
+constexpr long MostChancesWithoutScores = 300'000;
 
 // The saved game and the statistics may change from the moment the game takes up the command,
 // which may have come by any key.
@@ -50,7 +50,7 @@ void ChaosSession::BeginProgram() {
 
 void ChaosSession::OnChance(int depth) {
   ++chances_;
-  LookForProgress();
+  LookForScores();
   deepest_ = std::max(deepest_, depth);
   CheckRules(depth);
   for (int count = person.ChooseCount(); count > 0; --count) {
@@ -59,11 +59,10 @@ void ChaosSession::OnChance(int depth) {
   }
 }
 
-void ChaosSession::LookForProgress() {
-  const int progress = watch.HandsDealt() + watch.HandsScored() + programs_;
-  if (progress != progress_) chancesAtProgress_ = chances_;
-  progress_ = progress;
-  Require(chances_ - chancesAtProgress_ < MostChancesWithoutProgress, "the game goes on");
+void ChaosSession::LookForScores() {
+  if (handsScored_ != watch.HandsScored()) chancesAtScores_ = chances_;
+  handsScored_ = watch.HandsScored();
+  Require(chances_ - chancesAtScores_ < MostChancesWithoutScores, "hands come to their end");
 }
 
 void ChaosSession::Do(const Deed& deed) {

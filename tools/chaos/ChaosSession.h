@@ -49,7 +49,7 @@ class ChaosSession {
 
  private:
   void Do(const Deed& deed);
-  void LookForProgress();
+  void LookForScores();
 
   std::function<bool(const Deed&)> doDeed_;
   std::deque<std::string> log_;
@@ -57,8 +57,8 @@ class ChaosSession {
   long deedsTaken_ = 0;
   long chances_ = 0;
   int programs_ = 0;
-  int progress_ = 0;  // hands dealt, hands scored and programs begun
-  long chancesAtProgress_ = 0;
+  int handsScored_ = 0;
+  long chancesAtScores_ = 0;
   int deepest_ = 0;
   bool everythingWritten_ = true;
 };
