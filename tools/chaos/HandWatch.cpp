@@ -49,11 +49,10 @@ void HandWatch::BeginProgram(bool nothingLost) {
   gameOver_ = false;
 }
 
-// The saved game is written when a game is over and by "Save and Exit".
+// The saved game is written when a game is over and by "Save and Exit", whose answer may also be an
+// older one: the session of the desktop may have ended before it was given.
 void HandWatch::EndProgram() {
-  if (MFormDeluxe.Label3 != "   Scores" || MessageChoice != 1) return;
-  kept_.savedTotals = totals_;
-  kept_.savedInProgress = True;
+  if (MFormDeluxe.Label3 == "   Scores" && MessageChoice == 1) perhapsSaved_ = totals_;
 }
 
 std::string_view HandWatch::Look() {
@@ -225,7 +224,11 @@ bool HandWatch::WhatIsKeptIsThere() {
   kept_.statistics = {GamesWon, GamesPlayed};
   totals_ = kept_.savedTotals = {OurPoints, TheirPoints};
   kept_.savedInProgress = GameInProgress;
-  return !nothingLost_ || kept_ == before;
+  Kept saved = before;
+  saved.savedInProgress = True;
+  saved.savedTotals = perhapsSaved_.value_or(Pair{});
+  const bool isSaved = std::exchange(perhapsSaved_, {}).has_value() && kept_ == saved;
+  return !nothingLost_ || isSaved || kept_ == before;
 }
 
 bool HandWatch::ScoresAreShown() const {

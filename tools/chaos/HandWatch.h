@@ -79,6 +79,7 @@ class HandWatch {
   bool programBegins_ = true;
   bool nothingLost_ = false;
   Kept kept_;
+  std::optional<Pair> perhapsSaved_;
 
   Pair totals_;
   Pair handScore_;
