@@ -1,7 +1,6 @@
 // parlino-start-steps: starts the game once and prints what each step to the first painted window
 // takes, and then what the things take that are only made when they are first asked for.
 #include <cstdio>
-#include <ctime>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -10,6 +9,7 @@
 #include <QElapsedTimer>
 #include <QEvent>
 
+#include "bench/ProcessFigures.h"
 #include "engine/GameState.h"
 #include "game/Game.h"
 #include "table/CardDisplay.h"
@@ -49,13 +49,6 @@ class WatchedApplication : public QApplication {
 void PaintOnce(WatchedApplication& application, Parlino::QtPlatform& platform) {
   const int before = application.paintings;
   while (application.paintings == before) platform.ProcessEvents(1);
-}
-
-double ProcessorMs() {
-  timespec time{};
-  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-  constexpr double msInSecond = 1000;
-  return static_cast<double>(time.tv_sec) * msInSecond + static_cast<double>(time.tv_nsec) / NsInMs;
 }
 
 }  // namespace

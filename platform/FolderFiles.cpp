@@ -149,8 +149,8 @@ void FolderFiles::Replace(std::string_view fileName, std::string_view content) {
     throw;
   }
   if (unread != unread_.end()) unread_.erase(unread);
-  FlushFolder(
-      path.parent_path());  // makes the rename outlast a power cut; the record is whole either way
+  // Makes the rename outlast a power cut; the record is whole either way.
+  FlushFolder(path.parent_path());
   RemoveAbandoned(path);
 }
 

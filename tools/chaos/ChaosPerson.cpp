@@ -4,6 +4,7 @@
 
 #include "engine/GameState.h"
 #include "engine/RoundDriver.h"
+#include "platform/Platform.h"
 #include "table/MessageDialog.h"
 #include "table/TableEvents.h"
 #include "table/TableView.h"
@@ -94,6 +95,14 @@ Deed ChaosPerson::ChooseWanted() {
   if (Table.FramBids.Visible) return {DeedKind::ClickBid, 1 + generator_.NextBelow(3)};
   if (HandIsUnderWay()) return {DeedKind::ClickCard, 1 + generator_.NextBelow(CardsInPack)};
   return {DeedKind::ChooseMenu, NumberOf(Once(4) ? MenuItem::MnuLoad : MenuItem::MnuNew)};
+}
+
+std::uint32_t ChaosPerson::ChooseWait(std::uint32_t atMostMs) {
+  constexpr std::uint32_t anHour = 3'600'000;
+  if (atMostMs == Forever) return Forever;
+  if (Once(5000)) return atMostMs + anHour;
+  if (atMostMs <= 1 || Once(3)) return atMostMs;
+  return static_cast<std::uint32_t>(NextBelow(static_cast<int>(atMostMs)));
 }
 
 std::string ChaosPerson::ChooseName() {

@@ -20,6 +20,9 @@ class ChaosPerson {
   Deed ChooseDeed();
   // An answer to a box that asks for a name, empty for Cancel.
   std::string ChooseName();
+  // How much of a wait goes by until the next chance: mostly a part of it, and once in a while an
+  // hour more, for the machine sleeps.
+  std::uint32_t ChooseWait(std::uint32_t atMostMs);
   // Whether something happens that does so once in `odds` times.
   bool Once(int odds) { return generator_.NextBelow(odds) == 0; }
   int NextBelow(int count) { return generator_.NextBelow(count); }

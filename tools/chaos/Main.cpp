@@ -18,7 +18,17 @@
 namespace Parlino {
 namespace {
 
-constexpr std::uint32_t AnHour = 3'600'000;
+// A platform with many chances in every pause.
+class ChaosTable : public HeadlessPlatform {
+ public:
+  explicit ChaosTable(ChaosPerson& person) : person_(person) {}
+  void ProcessEvents(std::uint32_t atMostMs) override {
+    HeadlessPlatform::ProcessEvents(person_.ChooseWait(atMostMs));
+  }
+
+ private:
+  ChaosPerson& person_;
+};
 
 class HeadlessChaos {
  public:
@@ -26,7 +36,7 @@ class HeadlessChaos {
       : hands_(hands), session_(seed, [this](const Deed& deed) { return Do(deed); }) {
     platform_.mostIdleCalls = 100'000;
     platform_.files.emplace("/parlino/ParlinoHelp.rtf", "{\\rtf1 Bid, and make your bid.}");
-    platform_.script = [this](std::uint32_t atMostMs) { OnEvents(atMostMs); };
+    platform_.script = [this](std::uint32_t) { OnEvents(); };
     platform_.answerInputBox = [this](auto, auto, auto) { return AnswerBox(); };
     platform_.onMsgBox = [this](std::string_view text) { session_.OnMsgBox(text); };
   }
@@ -73,17 +83,13 @@ class HeadlessChaos {
     session_.OnEnd();
   }
 
-  void OnEvents(std::uint32_t atMostMs) {
+  void OnEvents() {
     if (session_.watch.HandsScored() >= hands_) throw EnoughHands{};
     DisturbPlatform();
     session_.OnChance(platform_.depth);
-    // A pause has many chances: most of the time only a part of it goes by.
-    if (atMostMs != Forever && atMostMs > 1 && !session_.person.Once(3))
-      platform_.ticks +=
-          static_cast<std::uint32_t>(session_.person.NextBelow(static_cast<int>(atMostMs)));
   }
 
-  // The disk fills up and is emptied, the clock is set, the machine sleeps, the session ends.
+  // The disk fills up and is emptied, the clock is set, the session ends.
   void DisturbPlatform() {
     ChaosPerson& person = session_.person;
     if (person.Once(platform_.filesCanBeWritten ? 5000 : 500)) {
@@ -93,10 +99,6 @@ class HeadlessChaos {
     if (person.Once(1000)) {
       platform_.clockAtStart = static_cast<std::uint32_t>(person.NextBelow(86'400'000));
       session_.Note("the clock is set");
-    }
-    if (person.Once(5000)) {
-      platform_.ticks += AnHour;
-      session_.Note("the machine sleeps");
     }
     if (person.Once(20'000)) EndSession();
   }
@@ -114,8 +116,8 @@ class HeadlessChaos {
   }
 
   int hands_;
-  HeadlessPlatform platform_;
   ChaosSession session_;
+  ChaosTable platform_{session_.person};
 };
 
 }  // namespace

@@ -5,8 +5,6 @@
 namespace Parlino {
 namespace {
 
-constexpr std::uint32_t AnHour = 3'600'000;
-
 // Counts as long as it is there, also when it is left by an exception.
 class Counting {
  public:
@@ -28,15 +26,10 @@ void ChaosPlatform::ProcessEvents(std::uint32_t atMostMs) {
   QuickPlatform::ProcessEvents(atMostMs);
 }
 
-// A pause has many chances: most of the time only a part of it goes by. Now and then the machine
-// sleeps, or somebody sets its clock.
+// Now and then somebody sets the clock of the machine.
 void ChaosPlatform::WaitForToolkit(std::uint32_t atMostMs) {
-  ChaosPerson& person = session_.person;
-  if (person.Once(1000)) clockAtStart_ = person.NextBelow(86'400);
-  if (atMostMs != Forever && atMostMs > 1 && !person.Once(3))
-    atMostMs = static_cast<std::uint32_t>(person.NextBelow(static_cast<int>(atMostMs)));
-  if (atMostMs != Forever && person.Once(5000)) atMostMs += AnHour;
-  QuickPlatform::WaitForToolkit(atMostMs);
+  if (session_.person.Once(1000)) clockAtStart_ = session_.person.NextBelow(86'400);
+  QuickPlatform::WaitForToolkit(session_.person.ChooseWait(atMostMs));
 }
 
 double ChaosPlatform::ClockSeconds() {
