@@ -38,6 +38,15 @@ class CardSet {
     return set;
   }
 
+  // The cards of the whole pack for which the condition holds.
+  template <class Condition>
+  static CardSet OfPack(Condition holds) {
+    constexpr int firstOfSuit[] = {1, 14, 27, 40};
+    CardSet set;
+    for (const int first : firstOfSuit) set = set | OfSuit(first, holds);
+    return set;
+  }
+
   CardSet operator|(CardSet other) const {
     other.bits_ |= bits_;
     return other;
@@ -46,9 +55,13 @@ class CardSet {
   [[nodiscard]] Walk begin() const { return Walk(bits_); }
   [[nodiscard]] Walk end() const { return Walk(0); }
   [[nodiscard]] bool IsEmpty() const { return bits_ == 0; }
+  [[nodiscard]] bool Has(int card) const { return (bits_ >> card & 1) != 0; }
   [[nodiscard]] Integer Count() const { return static_cast<Integer>(std::popcount(bits_)); }
-  // 0 when the set is empty.
+  // Each 0 when the set is empty.
   [[nodiscard]] Integer Lowest() const { return IsEmpty() ? Integer{0} : *begin(); }
+  [[nodiscard]] Integer Highest() const {
+    return static_cast<Integer>(IsEmpty() ? 0 : 63 - std::countl_zero(bits_));
+  }
 
   // The cards from `first` to `last`, both included, that are in the set.
   [[nodiscard]] CardSet Between(int first, int last) const {

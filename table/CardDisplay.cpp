@@ -114,6 +114,20 @@ void ShowEastHand() {
   LayOutHand(East);
 }
 
+CardSet PlayersRow() {
+  const double top = HandLayouts[Player].first.Top;
+  return CardSet::OfPack([top](int card) {
+    const PictureBox& box = Table.Cds[card];
+    return Pack[card].Owner == Player && box.Picture == card && box.Place.Top == top;
+  });
+}
+
+Integer SeatBehindCard(Integer card) {
+  for (Integer seat = Player; seat <= East; ++seat)
+    if (Table.Cds[card].Place == MiddlePlaces[seat]) return seat;
+  return NoSeat;
+}
+
 void MoveDealtCard(Integer card, Integer seat) {
   MoveTo(Table.Cds[card], DealPaths[seat].first);
   WaitMs();

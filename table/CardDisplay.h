@@ -25,6 +25,12 @@ void ShowWestHand();
 void ShowNorthHand();
 void ShowEastHand();
 
+// The cards that lie face up in the Player's row: what is left of a hand once it has been dealt.
+CardSet PlayersRow();
+
+// The seat before which the card lies in the middle of the table, or NoSeat.
+Integer SeatBehindCard(Integer card);
+
 // The two hops of a dealt card from the pack towards `seat`, with a pause between them.
 void MoveDealtCard(Integer card, Integer seat);
 

@@ -98,7 +98,7 @@ AboutWindow::AboutWindow(PendingEvents& pending, QWidget* table)
   setObjectName("frmAbout");
   setPalette(LightColours(Colours::Grey));
   setFont(TimesBold(8.25));
-  Named(new IconBox(ToPixels(240, 240, 540, 540), this), "picIcon")->setAccessibleName("Parlino");
+  Named(new IconBox(ToPixels(240, 240, 540, 540), this), "picIcon")->setAccessibleName("Icon");
   const auto label = [this](const char* name, const QRect& place, double points) {
     return Named(new BorderedLabel(place, TimesBold(points), this), name);
   };

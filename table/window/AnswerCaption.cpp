@@ -32,8 +32,12 @@ void AnswerCaption::paintEvent(QPaintEvent*) {
 }
 
 void AnswerCaption::keyPressEvent(QKeyEvent* event) {
-  if (!IsEnter(*event)) return QAbstractButton::keyPressEvent(event);
-  if (!event->isAutoRepeat()) click();
+  if (event->key() == Qt::Key_Space)
+    QAbstractButton::keyPressEvent(event);
+  else if (!IsEnter(*event))
+    event->ignore();  // the other keys are the dialog's
+  else if (!event->isAutoRepeat())
+    click();
 }
 
 }  // namespace Parlino

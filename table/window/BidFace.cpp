@@ -1,5 +1,7 @@
 #include "table/window/BidFace.h"
 
+#include <utility>
+
 #include <QPainter>
 
 #include "table/window/Design.h"
@@ -11,7 +13,7 @@ namespace Parlino {
 BidFace::BidFace(QWidget* parent) : QAbstractButton(parent) {
   constexpr double points = 9.75;
   setFont(TimesBold(points));
-  setFocusPolicy(Qt::StrongFocus);
+  setFocusPolicy(Qt::ClickFocus);
   setAttribute(Qt::WA_Hover);
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
@@ -19,6 +21,10 @@ BidFace::BidFace(QWidget* parent) : QAbstractButton(parent) {
 void BidFace::ShowModel(const BidButton& button) {
   setText(QString::fromStdString(button.Caption));
   setToolTip(QString::fromStdString(button.ToolTipText));
+}
+
+void BidFace::MarkFocus(bool marked) {
+  if (std::exchange(marksFocus_, marked) != marked) update();
 }
 
 void BidFace::paintEvent(QPaintEvent*) {
@@ -30,16 +36,22 @@ void BidFace::paintEvent(QPaintEvent*) {
     face = face.lighter(125);
   painter.fillRect(rect(), face);
   DrawEdges(painter, rect(), Colours::Black);
-  if (hasFocus()) DrawEdges(painter, rect().adjusted(2, 2, -2, -2), Colours::Black);
+  if (hasFocus() && marksFocus_) {
+    DrawEdges(painter, rect().adjusted(1, 1, -1, -1), Colours::White);
+    DrawEdges(painter, rect().adjusted(2, 2, -2, -2), Colours::White);
+    DrawEdges(painter, rect().adjusted(3, 3, -3, -3), Colours::Black);
+  }
   painter.setPen(Colours::Black);
   painter.drawText(rect().translated(0, isDown() ? 1 : 0), Qt::AlignCenter, text());
 }
 
 void BidFace::keyPressEvent(QKeyEvent* event) {
-  if (IsEnter(*event))
-    click();
-  else
+  if (event->key() == Qt::Key_Space)
     QAbstractButton::keyPressEvent(event);
+  else if (!IsEnter(*event))
+    event->ignore();  // the other keys are the panel's
+  else if (!event->isAutoRepeat())
+    click();
 }
 
 }  // namespace Parlino

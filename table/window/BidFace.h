@@ -14,10 +14,15 @@ class BidFace : public QAbstractButton {
   explicit BidFace(QWidget* parent);
 
   void ShowModel(const BidButton& button);
+  // Whether the face shows that it has the focus: it is of no use to the mouse.
+  void MarkFocus(bool marked);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  bool marksFocus_ = false;
 };
 
 }  // namespace Parlino

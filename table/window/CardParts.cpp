@@ -6,6 +6,7 @@
 #include "table/window/FrameBox.h"
 #include "table/window/PendingEvents.h"
 #include "table/window/PictureView.h"
+#include "table/window/Speaker.h"
 #include "table/window/SpokenNames.h"
 #include "table/window/TableMirror.h"
 #include "table/window/TableParts.h"
@@ -31,19 +32,20 @@ TablePoint EastPilePlace(int trick) {
   return {11160, 2640.0 + PileStep * (trick - 1)};
 }
 
-void BuildPile(const PartsBin& bin, const char* name, const TrickPile& pile,
+void BuildPile(const PartsBin& bin, Integer seat, const char* name, const TrickPile& pile,
                TablePoint (*placeOf)(int trick)) {
   for (int trick = 1; trick <= TricksInHand; ++trick) {
-    auto* back = Named(new TrickBack(&bin.parent), MemberName(name, trick));
+    auto* back = Named(new Speaking<TrickBack>(&bin.parent), MemberName(name, trick));
     back->resize(ToPixels(PileCardSize), ToPixels(PileCardSize));
     back->move(ToPixels(placeOf(trick)));
-    back->setAccessibleName("Trick taken");
+    back->speak = [seat, trick] { return SpokenTrick(seat, trick); };
     bin.mirror.Link(pile[trick], back);
   }
 }
 
-void ReportCardEvents(PictureView& view, int card, PendingEvents& pending) {
+void ReportCardEvents(Speaking<PictureView>& view, int card, PendingEvents& pending) {
   view.onClick = [&pending, card] { pending.Append({ClickCard, card}); };
+  view.press = view.onClick;
   view.onHover = [&pending, card] { pending.AppendOnce({HoverCard, card}); };
 }
 
@@ -51,17 +53,17 @@ void ReportCardEvents(PictureView& view, int card, PendingEvents& pending) {
 
 void BuildTableTop(const PartsBin& bin) {
   constexpr int borderWidth = 5;
-  auto* top = Named(new FilledBox(Colours::Green, &bin.parent), "Shape1");
+  auto* top = Named(new Speaking<FilledBox>(Colours::Green, &bin.parent), "Shape1");
   top->SetBorder(Colours::Brown, borderWidth);
   top->setGeometry(ToPixels(2880, 2640, 5535, 3855));
   bin.mirror.Link(Table.Shape1, top);
 }
 
 void BuildTrickPiles(const PartsBin& bin) {
-  BuildPile(bin, "ImgBackP", Table.ImgBackP, PlayersPilePlace);
-  BuildPile(bin, "ImgBackWest", Table.ImgBackWest, WestPilePlace);
-  BuildPile(bin, "ImgBackNorth", Table.ImgBackNorth, NorthPilePlace);
-  BuildPile(bin, "ImgBackEast", Table.ImgBackEast, EastPilePlace);
+  BuildPile(bin, Player, "ImgBackP", Table.ImgBackP, PlayersPilePlace);
+  BuildPile(bin, West, "ImgBackWest", Table.ImgBackWest, WestPilePlace);
+  BuildPile(bin, North, "ImgBackNorth", Table.ImgBackNorth, NorthPilePlace);
+  BuildPile(bin, East, "ImgBackEast", Table.ImgBackEast, EastPilePlace);
 }
 
 void BuildTrumps(const PartsBin& bin) {
@@ -75,24 +77,20 @@ void BuildTrumps(const PartsBin& bin) {
   heading->SizeToCaption(mostWidth);
   bin.mirror.Link(Table.LblTrumps, heading, [heading] { heading->ShowModel(Table.LblTrumps); });
 
-  auto* picture = Named(new PictureView(&bin.parent), "imgtrumps");
+  auto* picture = Named(new Speaking<PictureView>(&bin.parent), "imgtrumps");
+  picture->speak = SpokenTrumps;
   picture->setGeometry(ToPixels(480, 600, 615, 495));
-  bin.mirror.Link(Table.imgtrumps, picture, [picture] {
-    picture->ShowModel(Table.imgtrumps);
-    picture->setAccessibleName(SpokenTrumps(Table.imgtrumps.Picture));
-  });
+  bin.mirror.Link(Table.imgtrumps, picture, [picture] { picture->ShowModel(Table.imgtrumps); });
 }
 
 void BuildCards(const PartsBin& bin) {
-  for (int card = 1; card <= CardsInPack; ++card) {
-    auto* view = Named(new PictureView(&bin.parent), MemberName("Cds", card));
-    const PictureBox& box = Table.Cds[card];
+  for (Integer card = 1; card <= CardsInPack; ++card) {
+    auto* view = Named(new Speaking<PictureView>(&bin.parent), MemberName("Cds", card));
+    view->speak = [card] { return SpokenCard(card); };
     ReportCardEvents(*view, card, bin.pending);
-    const auto show = [view, &box] {
-      view->ShowModel(box);
-      view->setAccessibleName(SpokenCard(box.Picture));
-    };
-    bin.mirror.Link(box, view, show, Placing::Glides);
+    const PictureBox& box = Table.Cds[card];
+    bin.mirror.Link(
+        box, view, [view, &box] { view->ShowModel(box); }, Placing::Glides);
   }
 }
 

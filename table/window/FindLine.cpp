@@ -9,6 +9,7 @@
 
 #include "table/window/Design.h"
 #include "table/window/Keys.h"
+#include "table/window/SpokenParts.h"
 #include "table/window/TableParts.h"
 
 namespace Parlino {
@@ -30,13 +31,16 @@ FindLine::FindLine(QTextEdit& text, QWidget* parent)
     : QWidget(parent),
       text_(text),
       words_(Named(new QLineEdit(this), "FindWords")),
-      note_(Named(new QLabel(parent), "FindNote")) {
+      note_(Named(new Speaking<QLabel>(parent), "FindNote")) {
   constexpr double points = 9;
   words_->setPlaceholderText("Find in the help");
   words_->setAccessibleName("Find in the help");
   words_->setMinimumWidth(0);
   words_->setFixedHeight(ButtonSize);
   words_->setFont(TextFont(points));
+  note_->speak = [this] {
+    return Spoken{QAccessible::Notification, note_->text(), note_->text().isEmpty()};
+  };
   note_->setFont(TimesBold(points));
   note_->setTextFormat(Qt::PlainText);
   auto* layout = new QHBoxLayout(this);
@@ -117,6 +121,7 @@ void FindLine::ShowFound(const char* note) {
 
 void FindLine::Say(const char* note, bool isFound) {
   note_->setText(note);
+  if (!note_->text().isEmpty()) ReadOut(note_);
   SetGround(*words_, isFound ? Colours::White : Colours::Pink);
 }
 

@@ -1,10 +1,12 @@
 // The line that finds text in the help. It is closed until it is asked for.
 #pragma once
 
+#include <QLabel>
 #include <QTextDocument>
 #include <QWidget>
 
-class QLabel;
+#include "table/window/Speaker.h"
+
 class QLineEdit;
 class QTextEdit;
 
@@ -40,7 +42,7 @@ class FindLine : public QWidget {
 
   QTextEdit& text_;
   QLineEdit* words_;
-  QLabel* note_;
+  Speaking<QLabel>* note_;
 };
 
 }  // namespace Parlino

@@ -14,8 +14,7 @@ constexpr int CaptionMargin = 3;
 
 }  // namespace
 
-FrameBox::FrameBox(const FrameLook& look, const QString& caption, QWidget* parent)
-    : QGroupBox(caption, parent), look_(look) {
+FrameBox::FrameBox(const FrameLook& look, QWidget* parent) : QGroupBox(parent), look_(look) {
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 

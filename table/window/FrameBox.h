@@ -13,10 +13,11 @@ struct FrameLook {
   QFont font;
 };
 
-// A frame in the classic look: an etched line all round, the caption set into it at the top.
+// A frame in the classic look: an etched line all round, its title set into it at the top. The
+// title is given once the frame is there: tools are told of it and would not know the frame yet.
 class FrameBox : public QGroupBox {
  public:
-  FrameBox(const FrameLook& look, const QString& caption, QWidget* parent);
+  FrameBox(const FrameLook& look, QWidget* parent);
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -42,6 +42,7 @@ HelpWindow::HelpWindow(PendingEvents& pending, const QWidget& table)
       find_(Named(new FindLine(*text_, this), "FindLine")),
       close_(Named(new QPushButton("&Close", this), "btnClose")) {
   setObjectName("frmHelp");
+  speak = [this] { return Spoken{QAccessible::Window, windowTitle()}; };
   setWindowTitle("Parlino Help");
   setWindowIcon(table.windowIcon());
   setFont(TimesBold(9.75));

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include "table/HelpAndAbout.h"
+#include "table/window/Speaker.h"
 
 class QPushButton;
 
@@ -14,7 +15,7 @@ class FindLine;
 class HelpText;
 class PendingEvents;
 
-class HelpWindow : public QWidget {
+class HelpWindow : public QWidget, public Speaker {
  public:
   // `table` says on which screen the window opens and lends it its icon; it does not own it, for
   // the help may lie behind the table.

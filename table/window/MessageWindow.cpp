@@ -62,10 +62,12 @@ void AnswerFace::paintEvent(QPaintEvent*) {
 
 MessageWindow::MessageWindow(PendingEvents& pending, QWidget* owner)
     : QWidget(owner, Qt::Dialog | Qt::FramelessWindowHint),
-      title_(Named(new CaptionLabel(TextLook(1), this), "Label3")),
-      prompt_(Named(new CaptionLabel(TextLook(0), this), "Label2")),
-      picture_(Named(new QLabel(this), "Picture1")) {
+      title_(Named(new Speaking<CaptionLabel>(TextLook(1), this), "Label3")),
+      prompt_(Named(new Speaking<CaptionLabel>(TextLook(0), this), "Label2")),
+      picture_(Named(new Speaking<QLabel>(this), "Picture1")) {
   setObjectName("MFormDeluxe");
+  // The dialog itself reads its title and its prompt.
+  speak = [this] { return Spoken{QAccessible::Dialog, windowTitle()}; };
   setWindowModality(Qt::ApplicationModal);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setFocusPolicy(Qt::StrongFocus);
@@ -111,7 +113,9 @@ void MessageWindow::paintEvent(QPaintEvent*) {
 }
 
 void MessageWindow::keyPressEvent(QKeyEvent* event) {
-  if (IsEnter(*event) && !event->isAutoRepeat()) faces_[0]->Click();
+  if (IsEnter(*event) && !event->isAutoRepeat()) return faces_[0]->Click();
+  if (event->key() == Qt::Key_Right || event->key() == Qt::Key_Down) focusNextChild();
+  if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Up) focusPreviousChild();
 }
 
 void MessageWindow::closeEvent(QCloseEvent* event) {

@@ -9,6 +9,7 @@
 
 #include "table/MessageDialog.h"
 #include "table/window/CaptionLabel.h"
+#include "table/window/Speaker.h"
 
 namespace Parlino {
 
@@ -30,7 +31,7 @@ class AnswerFace : public QWidget {
   bool isPressed_ = false;
 };
 
-class MessageWindow : public QWidget {
+class MessageWindow : public QWidget, public Speaker {
  public:
   MessageWindow(PendingEvents& pending, QWidget* owner);
 

@@ -19,6 +19,8 @@ class PictureView : public QWidget {
   std::function<void()> onHover;
 
   void ShowModel(const PictureBox& box);
+  // The picture of the image list that is shown; 0 is none.
+  [[nodiscard]] Integer Picture() const { return picture_; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;

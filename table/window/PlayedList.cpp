@@ -9,6 +9,7 @@
 
 #include "table/window/Design.h"
 #include "table/window/Edges.h"
+#include "table/window/SpokenNames.h"
 
 namespace Parlino {
 
@@ -23,7 +24,9 @@ class PlayedLines : public QAbstractListModel {
 
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
     // The view also asks for the current line where there is none.
-    return role == Qt::DisplayRole && index.isValid() ? lines_.at(index.row()) : QVariant();
+    if (!index.isValid()) return {};
+    if (role == Qt::AccessibleTextRole) return SpokenLine(index.row(), lines_.at(index.row()));
+    return role == Qt::DisplayRole ? lines_.at(index.row()) : QVariant();
   }
 
   void Follow(const ListBox& list) {

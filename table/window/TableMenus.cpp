@@ -62,12 +62,14 @@ template <class Place>
 QMenu& AddMenu(Place& place, const char* name, const char* caption) {
   QMenu* menu = place.addMenu(caption);
   menu->setObjectName(name);
+  menu->setAccessibleName(QString(caption).remove('&') + " menu");
   return *menu;
 }
 
 }  // namespace
 
 void BuildMenus(QMenuBar& bar, PendingEvents& pending) {
+  bar.setAccessibleName("Menus");
   AddCommands(AddMenu(bar, "MnuPlay", "&Play"), PlayCommands, pending);
   AddCommands(AddMenu(bar, "MnuHelp", "&Help"), HelpCommands, pending);
   AddCommand(bar, AboutCommand, pending);

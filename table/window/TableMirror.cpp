@@ -62,7 +62,7 @@ void TableMirror::RaiseChanged() {
   std::ranges::sort(toRaise_, {}, &Tie::layer);
   for (const Tie* tie : toRaise_) tie->widget->raise();
   toRaise_.clear();
-  if (front_ != nullptr) front_->raise();
+  for (QWidget* widget : front_) widget->raise();
 }
 
 }  // namespace Parlino

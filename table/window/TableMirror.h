@@ -28,8 +28,9 @@ class TableMirror {
       const Control& control, QWidget* widget, std::function<void()> show = [] {},
       Placing placing = Placing::Fixed);
 
-  // Keeps the widget in front of all that is brought to the front after it.
-  void KeepInFront(QWidget* widget) { front_ = widget; }
+  // Keeps the widget in front of all that is brought to the front after it, and behind those for
+  // which this is asked later.
+  void KeepInFront(QWidget* widget) { front_.push_back(widget); }
 
   // Shows every control that has changed since the last call. `now` is a tick of the platform, and
   // `pauseMs` says how long the game is about to pause: so long a card may be on its way.
@@ -56,7 +57,7 @@ class TableMirror {
   Glides& glides_;
   std::vector<Tie> ties_;
   std::vector<Tie*> toRaise_;
-  QWidget* front_ = nullptr;
+  std::vector<QWidget*> front_;
   std::optional<std::uint64_t> shown_;
 };
 

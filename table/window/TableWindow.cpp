@@ -19,7 +19,10 @@
 
 namespace Parlino {
 
-TableWindow::TableWindow(PendingEvents& pending) : pending_(pending), table_(new QWidget(this)) {
+TableWindow::TableWindow(PendingEvents& pending)
+    : pending_(pending), table_(new QWidget(this)), spoken_(*table_) {
+  IntroduceSpeakers();
+  speak = [this] { return Spoken{QAccessible::Window, windowTitle()}; };
   setObjectName("FrmMain");
   setWindowTitle(ToText(ApplicationTitle));
   setAttribute(Qt::WA_OpaquePaintEvent);
@@ -39,6 +42,7 @@ TableWindow::TableWindow(PendingEvents& pending) : pending_(pending), table_(new
 
 void TableWindow::BuildTable() {
   table_->setObjectName("Table");
+  table_->setAccessibleName("Card table");
   table_->setFixedSize(ClientSize);
   // Without this the first control in the order of the Tab key would hold the focus from the start,
   // and a stray Space would press it.
@@ -57,10 +61,15 @@ void TableWindow::BuildTable() {
   BuildPlayedList(bin);
   BuildScoreFrame(bin);
   BuildStatusBar(bin);
+  keys_.emplace(*table_, pending_);
+  mirror_.KeepInFront(keys_->Mark());
 }
 
 void TableWindow::ShowModel(std::uint32_t now, std::uint32_t pauseMs) {
+  keys_->LeaveBidding();
   mirror_.ShowChanges(now, pauseMs);
+  keys_->Follow();
+  spoken_.Tell();
   glides_.DrawFrame(now);
   if (Table.FrmMain.Visible && !isVisible()) {
     PutInMiddleOfScreen();

@@ -9,13 +9,16 @@
 
 #include "table/window/DesktopMotion.h"
 #include "table/window/Glides.h"
+#include "table/window/Speaker.h"
+#include "table/window/SpokenParts.h"
+#include "table/window/TableKeys.h"
 #include "table/window/TableMirror.h"
 
 namespace Parlino {
 
 class PendingEvents;
 
-class TableWindow : public QWidget {
+class TableWindow : public QWidget, public Speaker {
  public:
   explicit TableWindow(PendingEvents& pending);
 
@@ -41,6 +44,8 @@ class TableWindow : public QWidget {
   Glides glides_;
   TableMirror mirror_{glides_};
   QWidget* table_;
+  SpokenChanges spoken_;
+  std::optional<TableKeys> keys_;
   bool wasPainted_ = false;
   std::optional<DesktopMotion> desktop_;
 };

@@ -10,6 +10,7 @@
 #include "table/window/FrameBox.h"
 #include "table/window/PendingEvents.h"
 #include "table/window/PlayedList.h"
+#include "table/window/Speaker.h"
 #include "table/window/SpokenNames.h"
 #include "table/window/TableMirror.h"
 #include "table/window/TableParts.h"
@@ -48,7 +49,6 @@ int RoomForName(int seat) {
 void ShowName(CaptionLabel* label, int seat) {
   label->SizeToCaption(RoomForName(seat));
   label->ShowModel(Table.LblName[seat]);
-  label->setAccessibleName(SpokenSeat(seat) + ": " + label->text());
 }
 
 }  // namespace
@@ -58,7 +58,7 @@ void BuildWelcomePanel(const PartsBin& bin) {
   constexpr double introductionPoints = 18;
   // The single card that lies on the table before the first deal must not look out from under the
   // panel: a ground of the panel's own covers the middle of the table.
-  auto* ground = Named(new FilledBox(Colours::Navy, &bin.parent), "WelcomeGround");
+  auto* ground = Named(new Speaking<FilledBox>(Colours::Navy, &bin.parent), "WelcomeGround");
   ground->setGeometry(0, 160, ClientSize.width(), 396);
   bin.mirror.Link(Table.LblIntro, ground);
   BuildWelcomeText(bin, "lblTitle", Table.lblTitle, ToPixels(240, 2400, 11295, 3315),
@@ -68,30 +68,34 @@ void BuildWelcomePanel(const PartsBin& bin) {
 }
 
 void BuildNames(const PartsBin& bin) {
-  for (int seat = Player; seat <= East; ++seat) {
+  for (Integer seat = Player; seat <= East; ++seat) {
     const QFont font = seat == West ? WindowFont() : TimesBold(NamePoints, Slope::Italic);
-    auto* label = Named(new CaptionLabel({Colours::LightYellow, font, Qt::AlignLeft}, &bin.parent),
-                        MemberName("LblName", seat));
+    const LabelLook look{Colours::LightYellow, font, Qt::AlignLeft};
+    auto* label = Named(new Speaking<CaptionLabel>(look, &bin.parent), MemberName("LblName", seat));
+    label->speak = [seat] { return SpokenSeat(seat); };
     bin.mirror.Link(
         Table.LblName[seat], label, [label, seat] { ShowName(label, seat); }, Placing::Jumps);
   }
 }
 
 // The line shares its place with the Player's trick pile and its right end with the score frame. It
-// stays in front, on a ground no larger than its text, and ends where the frame begins.
+// stays in front, on a ground no larger than its text, and ends where the frame begins. Its voice
+// never goes, or tools would read every note again whenever the line comes back.
 void BuildInfoLine(const PartsBin& bin) {
   constexpr int widthBesideScores = 355;
-  auto* info = Named(new CaptionLabel({.colour = Colours::Yellow,
-                                       .font = WindowFont(),
-                                       .ground = Ground::Strip,
-                                       .groundColour = Colours::Navy,
-                                       .mostLines = 2},
-                                      &bin.parent),
-                     "LblInfo");
+  auto* voice = Named(new Speaking<QWidget>(&bin.parent), "InfoVoice");
+  voice->speak = SpokenInfo;
+  voice->setGeometry(ToPixels(2760, 8400, 6855, 495));
+  bin.mirror.KeepInFront(voice);
+  const LabelLook look{.colour = Colours::Yellow,
+                       .font = WindowFont(),
+                       .ground = Ground::Strip,
+                       .groundColour = Colours::Navy,
+                       .mostLines = 2};
+  auto* info = Named(new Speaking<CaptionLabel>(look, voice), "LblInfo");
   info->LimitTextWidth(widthBesideScores);
-  info->setGeometry(ToPixels(2760, 8400, 6855, 495));
+  info->setGeometry(voice->rect());
   bin.mirror.Link(Table.LblInfo, info, [info] { info->ShowModel(Table.LblInfo); });
-  bin.mirror.KeepInFront(info);
 }
 
 void BuildWelcomeButton(const PartsBin& bin) {
@@ -124,6 +128,7 @@ void BuildStatusBar(const PartsBin& bin) {
                                          "The points obtained by your team",
                                          "Number of points obtained by other team"};
   auto* bar = Named(new QWidget(&bin.parent), "StatusBar1");
+  bar->setAccessibleName("Points");
   bar->setGeometry(ToPixels(0, 9150, 11760, 375));
   bar->setAutoFillBackground(true);
   for (int number = 1; number <= 3; ++number) {

@@ -43,7 +43,7 @@ TEST_F(Mirror, TheInformationLineStaysReadable) {
   Show(Table.ImgBackP[5]);
   BringToFront(Table.ImgBackP[5]);
   game.Turn();
-  EXPECT_GT(LayerOf("LblInfo"), LayerOf("ImgBackP(5)"));
+  EXPECT_GT(LayerOf("InfoVoice"), LayerOf("ImgBackP(5)"));
 }
 
 TEST_F(Mirror, APictureGivesItsSizeAndLeavesThePlace) {
@@ -75,16 +75,6 @@ TEST_F(Mirror, NoPictureIsMissingAtAnyRatio) {
     EXPECT_TRUE(hasPixels(SmallBack(ratio)));
   }
   EXPECT_TRUE(hasPixels(IconPicture(48)));
-}
-
-TEST_F(Mirror, OnlyCardsThatAreSeenAreSpoken) {
-  QWidget& card = game.Find("Cds(38)");
-  PlacePackDeal();
-  game.Turn();
-  EXPECT_EQ(card.accessibleName(), "Card face down");
-  SetPicture(Table.Cds[38], 38);
-  game.Turn();
-  EXPECT_EQ(card.accessibleName(), "King of Hearts");
 }
 
 TEST_F(Mirror, PointersAndTipsOfCardsAreShown) {

@@ -7,8 +7,8 @@
 
 #include "engine/GameState.h"
 #include "table/window/Design.h"
+#include "table/window/PictureView.h"
 #include "table/window/Pictures.h"
-#include "table/window/SpokenNames.h"
 #include "table/window/TableParts.h"
 #include "tests/window/WindowGame.h"
 
@@ -42,11 +42,10 @@ void TableWatch::TellCaption(const QString& name, const Label& label, bool hasPl
   };
 }
 
-void TableWatch::TellPicture(const QString& name, const PictureBox& box, bool hasPlace,
-                             QString (*spoken)(Integer picture)) {
+void TableWatch::TellPicture(const QString& name, const PictureBox& box, bool hasPlace) {
   Tell(name, box, hasPlace);
-  ties_.back().isShown = [widget = ties_.back().widget, &box, spoken] {
-    return widget->accessibleName() == spoken(box.Picture) &&
+  ties_.back().isShown = [widget = dynamic_cast<PictureView*>(ties_.back().widget), &box] {
+    return widget->Picture() == box.Picture &&
            (box.Picture == 0 || widget->size() == PictureSize(box.Picture)) &&
            widget->toolTip() == PlainToolTip(ToText(box.ToolTipText)) &&
            widget->testAttribute(Qt::WA_SetCursor) == (box.MousePointer != 0);
@@ -55,8 +54,8 @@ void TableWatch::TellPicture(const QString& name, const PictureBox& box, bool ha
 
 void TableWatch::TellCards() {
   for (int card = 1; card <= CardsInPack; ++card)
-    TellPicture(MemberName("Cds", card), Table.Cds[card], true, SpokenCard);
-  TellPicture("imgtrumps", Table.imgtrumps, false, SpokenTrumps);
+    TellPicture(MemberName("Cds", card), Table.Cds[card], true);
+  TellPicture("imgtrumps", Table.imgtrumps, false);
   for (int trick = 1; trick <= TricksInHand; ++trick) {
     Tell(MemberName("ImgBackP", trick), Table.ImgBackP[trick]);
     Tell(MemberName("ImgBackWest", trick), Table.ImgBackWest[trick]);

@@ -33,8 +33,7 @@ class TableWatch {
 
   void Tell(const QString& name, const Control& control, bool hasPlace = false);
   void TellCaption(const QString& name, const Label& label, bool hasPlace = false);
-  void TellPicture(const QString& name, const PictureBox& box, bool hasPlace,
-                   QString (*spoken)(Integer picture));
+  void TellPicture(const QString& name, const PictureBox& box, bool hasPlace);
   void TellCards();
   void TellScores();
   void TellList();

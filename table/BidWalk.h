@@ -1,0 +1,31 @@
+// The way of the keys through the bidding panel: which of its numbers is marked.
+#pragma once
+
+#include <cstdint>
+
+namespace Parlino {
+
+class BidWalk {
+ public:
+  // The marked number 1..13.
+  [[nodiscard]] int Number() const { return number_; }
+
+  void GoTo(int number);
+  // Steps along the numbers, and between the rows of six with the thirteenth below them; at the
+  // edge of the panel the mark stays.
+  void GoLeft() { GoTo(number_ - 1); }
+  void GoRight() { GoTo(number_ + 1); }
+  void GoUp();
+  void GoDown();
+
+  // A digit 0..9 typed at tick `now`: a second one within a moment of a 1 makes 10 to 13 of it.
+  // Digits that make no bid are passed over.
+  void Type(int digit, std::uint32_t now);
+
+ private:
+  int number_ = 1;
+  bool oneWasTyped_ = false;
+  std::uint32_t typedAt_ = 0;
+};
+
+}  // namespace Parlino

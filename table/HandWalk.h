@@ -1,0 +1,37 @@
+// The way of the keys through the Player's hand: which of its cards is marked.
+#pragma once
+
+#include "engine/GameState.h"
+
+namespace Parlino {
+
+class HandWalk {
+ public:
+  // The marked card 1..52, or 0 while no card lies in the Player's row.
+  [[nodiscard]] Integer Card() const { return card_; }
+
+  // Looks at the hand again. The mark keeps to its card; when that has been played, to its place in
+  // the row, where the next card will lie, or to the last one. A hand that is being dealt has none.
+  void Follow();
+
+  // Each moves the mark, if there is a card to move it to.
+  void GoTo(Integer card);
+  void GoToFirst();
+  void GoToLast();
+  void GoLeft();
+  void GoRight();
+
+  // The next card that may be played now, round the end of the row; false when none may be.
+  bool GoToNextPlayable();
+  bool GoToPlayableBefore();
+  // The next card of the suit, round the end of the row.
+  void GoToNextOfSuit(Integer suit);
+
+ private:
+  Integer card_ = 0;
+};
+
+// Whether it is the Player's turn and the card may be played.
+bool IsPlayable(Integer card);
+
+}  // namespace Parlino

@@ -1,0 +1,240 @@
+#include "table/window/TableKeys.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+
+#include "platform/Platform.h"
+#include "table/CardDisplay.h"
+#include "table/TableEvents.h"
+#include "table/window/BidFace.h"
+#include "table/window/Design.h"
+#include "table/window/Keys.h"
+#include "table/window/PendingEvents.h"
+#include "table/window/PictureView.h"
+#include "table/window/TableParts.h"
+
+namespace Parlino {
+namespace {
+
+QWidget* FindMember(const QWidget& table, const char* array, int index) {
+  return table.findChild<QWidget*>(MemberName(array, index));
+}
+
+bool IsModifier(const QKeyEvent& key) {
+  return key.key() >= Qt::Key_Shift && key.key() <= Qt::Key_ScrollLock;
+}
+
+// A key together with others is a command, but for Shift, which some keyboards need for digits.
+bool IsPlain(const QKeyEvent& key) {
+  return (key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == 0;
+}
+
+std::optional<int> DigitOf(const QKeyEvent& key) {
+  if (key.text().size() != 1 || !key.text().front().isDigit()) return std::nullopt;
+  return key.text().front().digitValue();
+}
+
+std::optional<Integer> SuitOf(const QKeyEvent& key) {
+  switch (key.key()) {
+    case Qt::Key_D:
+      return Diamonds;
+    case Qt::Key_C:
+      return Clubs;
+    case Qt::Key_H:
+      return Hearts;
+    case Qt::Key_S:
+      return Spades;
+    default:
+      return std::nullopt;
+  }
+}
+
+}  // namespace
+
+TableKeys::TableKeys(QWidget& table, PendingEvents& pending)
+    : table_(table), pending_(pending), mark_(&table) {
+  QCoreApplication::instance()->installEventFilter(this);
+}
+
+void TableKeys::LeaveBidding() {
+  if (isBidding_ && !Table.FramBids.Visible && face_->hasFocus()) GoToCard();
+}
+
+void TableKeys::Follow() {
+  const QWidget* focus = table_.window()->focusWidget();
+  const bool isOnHand = focus == nullptr || focus == &table_ || focus == card_;
+  const bool wasBidding = std::exchange(isBidding_, Table.FramBids.Visible);
+  hand_.Follow();
+  MarkCard();
+  if (isBidding_ && !wasBidding) {
+    bid_.GoTo(1);
+    GoToBid();
+  } else if (isOnHand) {
+    GoToCard();
+  }
+  ShowMark();
+}
+
+bool TableKeys::eventFilter(QObject* watched, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::MouseButtonPress:
+      NoteUse(false);
+      break;
+    case QEvent::ShortcutOverride:
+      NoteUse(keysAreUsed_ || !IsModifier(static_cast<QKeyEvent&>(*event)));
+      break;
+    case QEvent::KeyPress:
+      if (watched == &table_ || watched == card_) return TakeKey(static_cast<QKeyEvent&>(*event));
+      break;
+    case QEvent::FocusIn:
+      // An assistive tool may have moved it.
+      if (const auto* view = dynamic_cast<const PictureView*>(watched)) {
+        hand_.GoTo(view->Picture());
+        MarkCard();
+      }
+      [[fallthrough]];
+    case QEvent::FocusOut:
+      ShowMark();
+      break;
+    case QEvent::Move:
+      if (watched == card_) ShowMark();
+      break;
+    default:
+      break;
+  }
+  return false;
+}
+
+// The mark is for whoever plays by the keys.
+void TableKeys::NoteUse(bool ofKeys) {
+  keysAreUsed_ = ofKeys;
+  ShowMark();
+  if (face_ != nullptr) face_->MarkFocus(ofKeys);
+}
+
+bool TableKeys::TakeKey(const QKeyEvent& key) {
+  if (!IsPlain(key)) return false;
+  QWidget* focus = table_.window()->focusWidget();
+  const bool isOnBids = dynamic_cast<BidFace*>(focus) != nullptr;
+  const bool isOnHand = focus == &table_ || (focus == card_ && card_ != nullptr);
+  if (isBidding_ && (isOnBids || isOnHand) && TakeDigit(key)) return true;
+  return (isOnBids && TakeBidKey(key)) || (isOnHand && TakeHandKey(key));
+}
+
+bool TableKeys::TakeDigit(const QKeyEvent& key) {
+  const auto digit = DigitOf(key);
+  if (!digit) return false;
+  bid_.Type(*digit, ThePlatform().Ticks());
+  GoToBid();
+  return true;
+}
+
+bool TableKeys::TakeBidKey(const QKeyEvent& key) {
+  switch (key.key()) {
+    case Qt::Key_Left:
+      bid_.GoLeft();
+      break;
+    case Qt::Key_Right:
+      bid_.GoRight();
+      break;
+    case Qt::Key_Up:
+      bid_.GoUp();
+      break;
+    case Qt::Key_Down:
+      bid_.GoDown();
+      break;
+    case Qt::Key_Home:
+      bid_.GoTo(1);
+      break;
+    case Qt::Key_End:
+      bid_.GoTo(TricksInHand);
+      break;
+    default:
+      return false;
+  }
+  GoToBid();
+  return true;
+}
+
+bool TableKeys::TakeHandKey(const QKeyEvent& key) {
+  switch (key.key()) {
+    case Qt::Key_Left:
+      hand_.GoLeft();
+      break;
+    case Qt::Key_Right:
+      hand_.GoRight();
+      break;
+    case Qt::Key_Home:
+      hand_.GoToFirst();
+      break;
+    case Qt::Key_End:
+      hand_.GoToLast();
+      break;
+    case Qt::Key_Up:
+      hand_.GoToNextPlayable();
+      break;
+    case Qt::Key_Down:
+      hand_.GoToPlayableBefore();
+      break;
+    case Qt::Key_Tab:
+      if (!hand_.GoToNextPlayable()) return false;
+      break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+      PlayMarkedCard(key);
+      return true;
+    default:
+      const auto suit = SuitOf(key);
+      if (!suit) return false;
+      hand_.GoToNextOfSuit(*suit);
+  }
+  GoToCard();
+  return true;
+}
+
+// A key held down plays no second card.
+void TableKeys::PlayMarkedCard(const QKeyEvent& key) {
+  if (card_ != nullptr && !key.isAutoRepeat()) pending_.Append({ClickCard, hand_.Card()});
+}
+
+// Only the marked one of the numbers, and of the cards, is a stop of the Tab key.
+void TableKeys::GoToBid() {
+  if (face_ != nullptr) face_->setFocusPolicy(Qt::ClickFocus);
+  face_ = dynamic_cast<BidFace*>(FindMember(table_, "LblBids", bid_.Number()));
+  face_->setFocusPolicy(Qt::StrongFocus);
+  face_->MarkFocus(keysAreUsed_);
+  face_->setFocus();
+}
+
+void TableKeys::MarkCard() {
+  QWidget* card = hand_.Card() == 0 ? nullptr : FindMember(table_, "Cds", hand_.Card());
+  if (card == card_) return;
+  if (card_ != nullptr) card_->setFocusPolicy(Qt::NoFocus);
+  if (card != nullptr) card->setFocusPolicy(Qt::TabFocus);
+  card_ = card;
+}
+
+void TableKeys::GoToCard() {
+  MarkCard();
+  if (card_ != nullptr && table_.window()->focusWidget() != card_) card_->setFocus();
+}
+
+void TableKeys::ShowMark() {
+  if (card_ == nullptr || !card_->hasFocus() || !keysAreUsed_) return mark_.hide();
+  // The next card lies over this one.
+  QRect seen = card_->geometry();
+  const CardSet after = PlayersRow().Between(hand_.Card() + 1, CardsInPack);
+  if (!after.IsEmpty()) {
+    const double step = Table.Cds[after.Lowest()].Place.Left - Table.Cds[hand_.Card()].Place.Left;
+    seen.setWidth(std::min(seen.width(), ToPixels(step)));
+  }
+  mark_.Frame(seen);
+  mark_.show();
+}
+
+}  // namespace Parlino

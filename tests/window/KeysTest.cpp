@@ -1,0 +1,222 @@
+// The game played by the keys: whole games, and where the focus is meanwhile.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QTest>
+
+#include "WindowGame.h"
+#include "engine/GameState.h"
+#include "table/CardDisplay.h"
+#include "table/TableEvents.h"
+#include "table/window/Design.h"
+
+namespace Parlino {
+namespace {
+
+QWidget* Focus() {
+  return WindowGame::Find("FrmMain").focusWidget();
+}
+
+std::string FocusName() {
+  return Focus() == nullptr ? std::string() : Focus()->objectName().toStdString();
+}
+
+// Knows nothing but the keys and what is to be seen; one key at a time.
+class KeyPlayer {
+ public:
+  std::string bid = "3";
+  int hands = 0;
+
+  void Act() {
+    if (QApplication::activeModalWidget() != nullptr)
+      Answer();
+    else if (!hasStarted_)
+      Start();
+    else if (WindowGame::Find("FramBids").isVisible())
+      Bid();
+    else
+      Play();
+  }
+
+ private:
+  // "Next Hand" is the first answer; a game that is over is left by the second.
+  void Answer() {
+    ++hands;
+    if (QApplication::activeModalWidget()->windowTitle() != "Game Over")
+      return PressKey(Qt::Key_Return);
+    PressKey(Qt::Key_Right);
+    PressKey(Qt::Key_Right);
+    PressKey(Qt::Key_Space);
+  }
+  void Start() {
+    hasStarted_ = true;
+    PressKey(Qt::Key_F2);
+  }
+  void Bid() {
+    for (const char digit : bid) PressKey(static_cast<Qt::Key>(digit));
+    PressKey(Qt::Key_Return);
+  }
+  void Play() {
+    PressKey(Qt::Key_Up);
+    PressKey(Qt::Key_Space);
+  }
+
+  bool hasStarted_ = false;
+};
+
+TEST(Keys, PlayAWholeGame) {
+  WindowGame game;
+  KeyPlayer player;
+  EXPECT_EQ(game.Run([&] { player.Act(); }), 0);
+  EXPECT_GE(player.hands, 3);
+  EXPECT_EQ(GamesPlayed, 1);
+  EXPECT_EQ(game.platform.ReadFile("SaveGame.dat"), "0,0,#FALSE#\r\n");
+}
+
+TEST(Keys, BidWithTwoDigits) {
+  WindowGame game;
+  KeyPlayer player;
+  player.bid = "12";
+  game.Run([&] {
+    if (Bids[Player] > 0) throw SeenEnough{};
+    player.Act();
+  });
+  EXPECT_EQ(Bids[Player], 12);
+}
+
+// The focus is in the panel as long as it is open; afterwards on a card of the hand, at its place
+// in the row when the card there has been played, or at the end of a row that has become shorter.
+TEST(Keys, TheFocusIsWhereThePlayerNeedsIt) {
+  WindowGame game;
+  KeyPlayer player;
+  int played = 0;
+  int expectedX = 0;
+  const auto lastX = [] { return ToPixels(Table.Cds[PlayersRow().Highest()].Place).x(); };
+  game.Run([&] {
+    if (QApplication::activeModalWidget() != nullptr) throw SeenEnough{};
+    if (WindowGame::Find("FramBids").isVisible()) {
+      EXPECT_EQ(FocusName(), "LblBids(1)");
+    } else if (PlayerTurn == True) {
+      EXPECT_TRUE(FocusName().starts_with("Cds(")) << FocusName();
+      if (played > 0) {
+        EXPECT_EQ(Focus()->x(), std::min(expectedX, lastX())) << played;
+      }
+      // To another place for each card, the ends among them.
+      if (++played % 3 == 0) PressKey(Qt::Key_End);
+      if (played % 5 == 0) PressKey(Qt::Key_Home);
+      PressKey(Qt::Key_Up);
+      expectedX = Focus()->x();
+      EXPECT_TRUE(game.Find("FocusMark").isVisible());
+    }
+    player.bid = "1";
+    if (PlayerTurn == True)
+      PressKey(Qt::Key_Return);
+    else
+      player.Act();
+  });
+  EXPECT_EQ(played, 13);
+}
+
+std::string raised;
+
+class TableKeysTest : public testing::Test {
+ protected:
+  TableKeysTest() {
+    game.Load();
+    raised.clear();
+    Events.Cds_Click = [](Integer card) { raised += "card " + std::to_string(card) + " "; };
+    Events.LblBids_Click = [](Integer tricks) { raised += "bid " + std::to_string(tricks) + " "; };
+    PlacePackDeal();
+    for (const int card : {5, 18, 31, 44}) Pack[card].Owner = Player;
+    ShowPlayerHand();
+    Hide(Table.CmdDontShow);
+    TrumpSuit = Clubs;
+    game.Turn();
+  }
+
+  void Press(std::initializer_list<Qt::Key> keys) {
+    for (const Qt::Key key : keys) PressKey(key);
+    game.Turn();
+  }
+
+  WindowGame game;
+};
+
+TEST_F(TableKeysTest, RaiseTheEventsOfTheMouseAndNoOthers) {
+  Press({Qt::Key_Right, Qt::Key_Up, Qt::Key_S, Qt::Key_Home, Qt::Key_End, Qt::Key_Left, Qt::Key_7});
+  EXPECT_EQ(raised, "");
+  EXPECT_EQ(FocusName(), "Cds(31)");
+  Press({Qt::Key_Return, Qt::Key_C, Qt::Key_Space, Qt::Key_Enter});
+  EXPECT_EQ(raised, "card 31 card 18 card 18 ");
+}
+
+TEST_F(TableKeysTest, AKeyHeldDownPlaysAndBidsOnce) {
+  QTest::sendKeyEvent(QTest::Press, Focus(), Qt::Key_Return, QString("\r"), Qt::NoModifier);
+  const auto repeat = [] {
+    QKeyEvent again(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+    QApplication::sendEvent(Focus(), &again);
+  };
+  repeat();
+  game.Turn();
+  EXPECT_EQ(raised, "card 5 ");
+  Show(Table.FramBids);
+  game.Turn();
+  EXPECT_EQ(FocusName(), "LblBids(1)");
+  repeat();
+  game.Turn();
+  EXPECT_EQ(raised, "card 5 ");
+}
+
+TEST_F(TableKeysTest, KeysInTheListOrWithCtrlMeanNothingForTheHand) {
+  game.Find("LstCardsPlayed").setFocus();
+  Press({Qt::Key_Return, Qt::Key_Space, Qt::Key_3});
+  EXPECT_EQ(FocusName(), "LstCardsPlayed");
+  PressKey(Qt::Key_H, Qt::AltModifier);
+  Press({Qt::Key_Escape, Qt::Key_Tab});
+  EXPECT_EQ(FocusName(), "Cds(5)");
+  PressKey(Qt::Key_S, Qt::ControlModifier);
+  game.Turn();
+  EXPECT_EQ(FocusName(), "Cds(5)");
+  EXPECT_EQ(raised, "");
+}
+
+TEST_F(TableKeysTest, TabGoesRoundTheTableWhenNoCardMayBePlayed) {
+  Show(Table.FramBids);
+  game.Turn();
+  for (const char* stop : {"LblBids(1)", "LstCardsPlayed", "Cds(5)", "LblBids(1)"}) {
+    EXPECT_EQ(FocusName(), stop);
+    Press({Qt::Key_Tab});
+  }
+  Press({Qt::Key_Tab, Qt::Key_1, Qt::Key_3});
+  EXPECT_EQ(FocusName(), "LblBids(13)") << "a number works from the hand, too";
+  Press({Qt::Key_Up, Qt::Key_Space});
+  EXPECT_EQ(raised, "bid 9 ");
+}
+
+TEST_F(TableKeysTest, TabStaysWithTheCardsThatMayBePlayedAndShiftTabLeaves) {
+  PlayerTurn = True;
+  Leader = West;
+  TrickSuits[1] = Hearts;
+  Press({Qt::Key_Tab, Qt::Key_Tab});
+  EXPECT_EQ(FocusName(), "Cds(31)");
+  Press({Qt::Key_Backtab});
+  EXPECT_EQ(FocusName(), "LstCardsPlayed");
+}
+
+TEST_F(TableKeysTest, TheMarkIsForTheKeysAndFramesWhatIsSeenOfTheCard) {
+  const QWidget& mark = game.Find("FocusMark");
+  Press({Qt::Key_Right});
+  EXPECT_TRUE(mark.isVisible());
+  EXPECT_LT(mark.width(), game.Find("Cds(18)").width());
+  EXPECT_TRUE(mark.geometry().contains(game.Find("Cds(18)").pos()));
+  Press({Qt::Key_End});
+  EXPECT_TRUE(mark.geometry().contains(game.Find("Cds(44)").geometry()));
+  Click(game.Find("Cds(5)"));
+  game.Turn();
+  EXPECT_FALSE(mark.isVisible());
+  Press({Qt::Key_Left});
+  EXPECT_TRUE(mark.isVisible());
+}
+
+}  // namespace
+}  // namespace Parlino
