@@ -24,6 +24,7 @@ int main(int, char* arguments[]) {
   std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is an error of its saving
   int onlyTheProgramsName = 1;
   const QApplication application(onlyTheProgramsName, arguments);
+  QGuiApplication::setDesktopFileName("org.parlino.Parlino");
   Parlino::QtPlatform platform(QApplication::applicationDirPath().toStdString());
   Parlino::SetUpGame(platform);
   Parlino::DealGenerator.Seed(FreshSeed());
