@@ -1,4 +1,5 @@
 // Whole hands and games through the table model, with its invariants looked at on the way.
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <set>
 
@@ -74,6 +75,23 @@ TEST(WholeGame, DealsInTurnWithinAGameAndShowsWhatHappened) {
   };
   PlayLookingOn(game, player);
   EXPECT_GE(handsInTurn, 4);
+}
+
+TEST(WholeGame, BidsGoRoundFromTheSeatAfterTheDealer) {
+  HeadlessGame game(17);
+  PlainPlayer player(5);
+  std::vector<Integer> order;
+  player.onDialog = [&] {
+    EXPECT_EQ(order, (std::vector<Integer>{SeatAfter(Dealer), SeatAfter(Dealer, 2),
+                                           SeatAfter(Dealer, 3), Dealer}));
+    order.clear();
+  };
+  game.platform.script = [&](std::uint32_t atMostMs) {
+    for (Integer seat = Player; seat <= East; ++seat)
+      if (Bids[seat] > 0 && std::ranges::count(order, seat) == 0) order.push_back(seat);
+    player.OnEvents(atMostMs);
+  };
+  RunGame();
 }
 
 TEST(WholeGame, GoesOnFromASavedGameWithWestDealing) {

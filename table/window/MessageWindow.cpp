@@ -94,7 +94,8 @@ void MessageWindow::Place(const MessageDialogView& dialog) {
   const QRect screen = window()->screen()->geometry();
   const QRect place = ToPixels({dialog.Left, dialog.Top, dialog.Width, dialog.Height});
   setWindowTitle(title_->text().trimmed());
-  setAccessibleDescription(prompt_->text());
+  // Tools would be told each time, and their questions make the window look at the model again.
+  if (accessibleDescription() != prompt_->text()) setAccessibleDescription(prompt_->text());
   setFixedSize(place.size());
   // A prompt much taller than the one before would push the buttons off the screen.
   const int lowest = std::max(0, screen.height() - place.height());
