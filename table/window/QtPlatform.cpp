@@ -29,7 +29,11 @@ void CloseMenus() {
 
 // The window that was active, be it the table or another, gets the keys again after the box.
 void PutBefore(const QWidget* window, QWidget& box) {
-  box.winId();  // makes the box a window of the desktop, which is told
+  // The box becomes a window of the desktop, which is told. Without the attribute the menu bar and
+  // the table would become such windows too, and leave lines of moving cards behind them at scales
+  // that are not whole.
+  QCoreApplication::setAttribute(Qt::AA_DontCreateNativeWidgetSiblings);
+  box.winId();
   if (window != nullptr) box.windowHandle()->setTransientParent(window->windowHandle());
 }
 

@@ -1,6 +1,7 @@
 #include "table/window/TableWindow.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <QCloseEvent>
 #include <QIcon>
@@ -14,13 +15,17 @@
 #include "table/window/Design.h"
 #include "table/window/PendingEvents.h"
 #include "table/window/Pictures.h"
+#include "table/window/ScrolledTable.h"
 #include "table/window/TableMenus.h"
 #include "table/window/TableParts.h"
 
 namespace Parlino {
 
 TableWindow::TableWindow(PendingEvents& pending)
-    : pending_(pending), table_(new QWidget(this)), spoken_(*table_) {
+    : pending_(pending),
+      table_(new QWidget),
+      room_(new ScrolledTable(table_, this)),
+      spoken_(*table_) {
   IntroduceSpeakers();
   speak = [this] { return Spoken{QAccessible::Window, windowTitle()}; };
   setObjectName("FrmMain");
@@ -32,12 +37,11 @@ TableWindow::TableWindow(PendingEvents& pending)
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSizeConstraint(QLayout::SetNoConstraint);
   layout->setMenuBar(menus);
-  layout->addWidget(table_, 0, Qt::AlignLeft | Qt::AlignTop);
+  layout->addWidget(room_);
   BuildTable();
   // In less room the bar would put menus behind a button, whose menu runs a loop of the toolkit's
   // own: the game would stand still meanwhile.
   setMinimumWidth(menus->sizeHint().width());
-  resize(ClientSize + QSize(0, menus->sizeHint().height()));
 }
 
 void TableWindow::BuildTable() {
@@ -72,17 +76,26 @@ void TableWindow::ShowModel(std::uint32_t now, std::uint32_t pauseMs) {
   spoken_.Tell();
   glides_.DrawFrame(now);
   if (Table.FrmMain.Visible && !isVisible()) {
-    PutInMiddleOfScreen();
+    FitToScreen();
     show();
   }
   if (wasPainted_ && !desktop_) FollowDesktop();
 }
 
-void TableWindow::PutInMiddleOfScreen() {
-  const QRect room = screen()->availableGeometry();
-  const QPoint middle = room.center() - rect().center();
-  // On a screen that is too small the menu is what must be seen.
-  move(std::max(room.left(), middle.x()), std::max(room.top(), middle.y()));
+// The middle of the screen. On one that is too small the menu is what must be seen.
+void TableWindow::FitToScreen() {
+  constexpr QSize roomForFrame(2, 40);
+  const QRect screenRoom = screen()->availableGeometry();
+  const QSize room = screenRoom.size() - roomForFrame;
+  layout()->activate();  // gives the menu bar its height
+  // A scale that is not whole may cost a pixel, for which there must be no scroll bars.
+  const int spare = devicePixelRatioF() == std::floor(devicePixelRatioF()) ? 0 : 1;
+  resize(room_->WindowSize(size() - room_->size() + QSize(spare, spare), room));
+  const QPoint middle = screenRoom.center() - rect().center();
+  const QPoint lowest = screenRoom.bottomRight() - rect().bottomRight() -
+                        QPoint(roomForFrame.width(), roomForFrame.height());
+  move(std::max(screenRoom.left(), std::min(middle.x(), lowest.x())),
+       std::max(screenRoom.top(), std::min(middle.y(), lowest.y())));
 }
 
 // Comes after the table has been seen for the first time: nobody waits for it.

@@ -1,5 +1,5 @@
 // The table window: the menu bar and, below it, the table of a fixed size. The window may be
-// resized; nothing in it moves.
+// resized; nothing on the table moves.
 #pragma once
 
 #include <cstdint>
@@ -17,6 +17,7 @@
 namespace Parlino {
 
 class PendingEvents;
+class ScrolledTable;
 
 class TableWindow : public QWidget, public Speaker {
  public:
@@ -36,7 +37,7 @@ class TableWindow : public QWidget, public Speaker {
 
  private:
   void BuildTable();
-  void PutInMiddleOfScreen();
+  void FitToScreen();
   void FollowDesktop();
   void TakeIcon();
 
@@ -44,6 +45,7 @@ class TableWindow : public QWidget, public Speaker {
   Glides glides_;
   TableMirror mirror_{glides_};
   QWidget* table_;
+  ScrolledTable* room_;
   SpokenChanges spoken_;
   std::optional<TableKeys> keys_;
   bool wasPainted_ = false;

@@ -102,10 +102,7 @@ void BuildWelcomeButton(const PartsBin& bin) {
   auto* button = Named(new QPushButton(&bin.parent), "CmdDontShow");
   button->setGeometry(ToPixels(2880, 8520, 5775, 375));
   button->setFont(WindowFont());
-  QPalette colours = button->palette();
-  colours.setColor(QPalette::Button, Colours::Peach);
-  colours.setColor(QPalette::ButtonText, Colours::Black);
-  button->setPalette(colours);
+  button->setPalette(LightColours(Colours::LightGrey, Colours::Peach));
   QObject::connect(button, &QPushButton::clicked, [&pending = bin.pending] {
     pending.Append({[](int) { return ClickDontShow(); }});
   });

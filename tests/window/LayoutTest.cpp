@@ -85,13 +85,14 @@ TEST(Layout, TheTableKeepsItsSizeAndPlaceWhenTheWindowGrows) {
   WindowGame game;
   game.Load();
   QWidget& window = game.Find("FrmMain");
-  const QRect before = game.Find("Table").geometry();
-  EXPECT_EQ(before.size(), QSize(784, 635));
-  EXPECT_EQ(window.width(), 784);
-  EXPECT_EQ(window.height(), before.bottom() + 1);
+  const QWidget& table = game.Find("Table");
+  const QPoint place = table.mapTo(&window, QPoint());
+  EXPECT_EQ(table.size(), QSize(784, 635));
+  EXPECT_EQ(window.size(), table.size() + QSize(0, place.y()));
   window.resize(1000, 900);
   game.Turn();
-  EXPECT_EQ(game.Find("Table").geometry(), before);
+  EXPECT_EQ(table.mapTo(&window, QPoint()), place);
+  EXPECT_EQ(table.size(), QSize(784, 635));
 }
 
 TEST(Layout, NamesSizeThemselvesAtTheirPlaces) {
