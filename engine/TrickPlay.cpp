@@ -51,6 +51,13 @@ bool MayPlayCard(Integer seat, Integer card, int position) {
   return position == 1 || !HasStartSuitQuery(seat) || Pack[card].Suit == LedSuit;
 }
 
+CardSet CardsHumanMayPlay() {
+  if (PlayerTurn == False) return {};
+  return CardSet::OfPack([position = HumansPosition()](int card) {
+    return MayPlayCard(Player, static_cast<Integer>(card), position);
+  });
+}
+
 void TakeHumansTurn() {
   PlayerTurn = True;
   SetCaption(Table.LblInfo, {PlayerName, " please play a card."});

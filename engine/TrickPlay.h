@@ -16,6 +16,9 @@ int HumansPosition();
 // without a card of the led suit, otherwise a card of the led suit.
 bool MayPlayCard(Integer seat, Integer card, int position);
 
+// The cards that the human may play now: none out of turn.
+CardSet CardsHumanMayPlay();
+
 // A click on card picture `card` 1..52: plays it when it is the human's turn and the card may be
 // played; says so for half a second when suit was not followed; otherwise ignored. Exactly one card
 // is accepted in a turn. Reports its own errors.

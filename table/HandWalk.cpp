@@ -1,6 +1,5 @@
 #include "table/HandWalk.h"
 
-#include "engine/TrickPlay.h"
 #include "table/CardDisplay.h"
 
 namespace Parlino {
@@ -22,22 +21,7 @@ CardSet Above(CardSet cards, Integer card) {
   return cards.Between(card + 1, CardsInPack);
 }
 
-// The first of the cards after `card`, round the end.
-Integer NextOf(CardSet cards, Integer card) {
-  return LowestOr(Above(cards, card), LowestOr(cards, card));
-}
-
-CardSet Playable() {
-  const CardSet row = PlayersRow();
-  return CardSet::OfPack(
-      [row](int card) { return row.Has(card) && IsPlayable(static_cast<Integer>(card)); });
-}
-
 }  // namespace
-
-bool IsPlayable(Integer card) {
-  return PlayerTurn != False && MayPlayCard(Player, card, HumansPosition());
-}
 
 void HandWalk::Follow() {
   const CardSet row = TrumpSuit < Diamonds ? CardSet() : PlayersRow();  // no trumps yet: dealing
@@ -65,21 +49,19 @@ void HandWalk::GoRight() {
   card_ = LowestOr(Above(PlayersRow(), card_), card_);
 }
 
-bool HandWalk::GoToNextPlayable() {
-  const CardSet playable = Playable();
-  card_ = NextOf(playable, card_);
-  return !playable.IsEmpty();
+bool HandWalk::GoToNext(CardSet cards) {
+  card_ = LowestOr(Above(cards, card_), LowestOr(cards, card_));
+  return !cards.IsEmpty();
 }
 
-bool HandWalk::GoToPlayableBefore() {
-  const CardSet playable = Playable();
-  card_ = HighestOr(Below(playable, card_), HighestOr(playable, card_));
-  return !playable.IsEmpty();
+bool HandWalk::GoToOneBefore(CardSet cards) {
+  card_ = HighestOr(Below(cards, card_), HighestOr(cards, card_));
+  return !cards.IsEmpty();
 }
 
 void HandWalk::GoToNextOfSuit(Integer suit) {
   const Integer first = FirstCardOf(suit);
-  card_ = NextOf(PlayersRow().Between(first, first + CardsInSuit - 1), card_);
+  GoToNext(PlayersRow().Between(first, first + CardsInSuit - 1));
 }
 
 }  // namespace Parlino

@@ -21,17 +21,13 @@ class HandWalk {
   void GoLeft();
   void GoRight();
 
-  // The next card that may be played now, round the end of the row; false when none may be.
-  bool GoToNextPlayable();
-  bool GoToPlayableBefore();
-  // The next card of the suit, round the end of the row.
+  // The next of these cards of the row, or the one before, round the end; false without any.
+  bool GoToNext(CardSet cards);
+  bool GoToOneBefore(CardSet cards);
   void GoToNextOfSuit(Integer suit);
 
  private:
   Integer card_ = 0;
 };
-
-// Whether it is the Player's turn and the card may be played.
-bool IsPlayable(Integer card);
 
 }  // namespace Parlino

@@ -1,6 +1,7 @@
 // Where the keys lead, in the hand and in the bidding panel.
 #include <gtest/gtest.h>
 
+#include "engine/TrickPlay.h"
 #include "support/HeadlessGame.h"
 #include "table/BidWalk.h"
 #include "table/CardDisplay.h"
@@ -62,10 +63,10 @@ void Step(HandWalk& walk, char step) {
     case 'r':
       return walk.GoRight();
     case 'u':
-      EXPECT_TRUE(walk.GoToNextPlayable());
+      EXPECT_TRUE(walk.GoToNext(CardsHumanMayPlay()));
       return;
     case 'd':
-      EXPECT_TRUE(walk.GoToPlayableBefore());
+      EXPECT_TRUE(walk.GoToOneBefore(CardsHumanMayPlay()));
       return;
     default:
       return walk.GoToNextOfSuit(SuitOf(step));
@@ -104,8 +105,8 @@ TEST_F(HandWalkTest, WaitsForTheDealAndFindsNoCardToPlayOutOfTurn) {
   HandWalk walk;
   walk.Follow();
   EXPECT_EQ(CardText(walk.Card()), "4D");
-  EXPECT_FALSE(walk.GoToNextPlayable());
-  EXPECT_FALSE(walk.GoToPlayableBefore());
+  EXPECT_FALSE(walk.GoToNext(CardsHumanMayPlay()));
+  EXPECT_FALSE(walk.GoToOneBefore(CardsHumanMayPlay()));
   EXPECT_EQ(CardText(walk.Card()), "4D");
   walk.GoToLast();
   PlacePackDeal();

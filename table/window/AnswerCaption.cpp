@@ -4,14 +4,13 @@
 
 #include "table/TableEvents.h"
 #include "table/window/Design.h"
-#include "table/window/Keys.h"
 #include "table/window/MessageWindow.h"
 #include "table/window/PendingEvents.h"
 
 namespace Parlino {
 
 AnswerCaption::AnswerCaption(int answer, PendingEvents& pending, QWidget* parent)
-    : QAbstractButton(parent) {
+    : KeyButton(parent) {
   setFont(MessageFont());
   setFocusPolicy(Qt::TabFocus);
   connect(this, &QAbstractButton::pressed, [&pending, answer] {
@@ -29,15 +28,6 @@ void AnswerCaption::paintEvent(QPaintEvent*) {
   if (!hasFocus()) return;
   painter.setPen(QPen(Colours::Yellow, 1, Qt::DotLine));
   painter.drawRect(rect().adjusted(1, 1, -2, -2));
-}
-
-void AnswerCaption::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Space)
-    QAbstractButton::keyPressEvent(event);
-  else if (!IsEnter(*event))
-    event->ignore();  // the other keys are the dialog's
-  else if (!event->isAutoRepeat())
-    click();
 }
 
 }  // namespace Parlino

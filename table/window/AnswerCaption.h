@@ -1,7 +1,7 @@
 // The caption of an answer in the message dialog: the part of the button that takes the clicks.
 #pragma once
 
-#include <QAbstractButton>
+#include "table/window/KeyButton.h"
 
 namespace Parlino {
 
@@ -9,13 +9,12 @@ class PendingEvents;
 
 // Reports when it goes down and when it is clicked, by the mouse, by Space or by Enter. It draws no
 // ground: the face below it shows through.
-class AnswerCaption : public QAbstractButton {
+class AnswerCaption : public KeyButton {
  public:
   AnswerCaption(int answer, PendingEvents& pending, QWidget* parent);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
 };
 
 }  // namespace Parlino

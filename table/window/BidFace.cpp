@@ -6,11 +6,10 @@
 
 #include "table/window/Design.h"
 #include "table/window/Edges.h"
-#include "table/window/Keys.h"
 
 namespace Parlino {
 
-BidFace::BidFace(QWidget* parent) : QAbstractButton(parent) {
+BidFace::BidFace(QWidget* parent) : KeyButton(parent) {
   constexpr double points = 9.75;
   setFont(TimesBold(points));
   setFocusPolicy(Qt::ClickFocus);
@@ -43,15 +42,6 @@ void BidFace::paintEvent(QPaintEvent*) {
   }
   painter.setPen(Colours::Black);
   painter.drawText(rect().translated(0, isDown() ? 1 : 0), Qt::AlignCenter, text());
-}
-
-void BidFace::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Space)
-    QAbstractButton::keyPressEvent(event);
-  else if (!IsEnter(*event))
-    event->ignore();  // the other keys are the panel's
-  else if (!event->isAutoRepeat())
-    click();
 }
 
 }  // namespace Parlino

@@ -1,15 +1,14 @@
 // One of the thirteen buttons of the bidding panel.
 #pragma once
 
-#include <QAbstractButton>
-
 #include "table/TableView.h"
+#include "table/window/KeyButton.h"
 
 namespace Parlino {
 
 // A small square with a number. It answers to the mouse, and to Space and Enter while it has the
 // focus.
-class BidFace : public QAbstractButton {
+class BidFace : public KeyButton {
  public:
   explicit BidFace(QWidget* parent);
 
@@ -19,7 +18,6 @@ class BidFace : public QAbstractButton {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   bool marksFocus_ = false;

@@ -4,8 +4,8 @@
 
 #include "engine/GameState.h"
 #include "engine/RoundDriver.h"
+#include "engine/TrickPlay.h"
 #include "table/CardDisplay.h"
-#include "table/HandWalk.h"
 #include "table/window/Design.h"
 
 namespace Parlino {
@@ -30,7 +30,7 @@ Spoken SpokenCard(Integer card) {
   const QString name = ToText(Pack[card].FullName).simplified();
   const CardSet row = PlayersRow();
   if (row.Has(card)) {
-    const QString state = IsPlayable(card) ? "playable, " : "";
+    const QString state = CardsHumanMayPlay().Has(card) ? "playable, " : "";
     const int place = row.Between(1, card).Count();
     const QString where = QString("%1 of %2").arg(place).arg(row.Count());
     return {.role = QAccessible::Button, .name = name + ", " + state + where, .canBePressed = true};

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 
+#include "engine/TrickPlay.h"
 #include "platform/Platform.h"
 #include "table/CardDisplay.h"
 #include "table/TableEvents.h"
@@ -175,13 +176,13 @@ bool TableKeys::TakeHandKey(const QKeyEvent& key) {
       hand_.GoToLast();
       break;
     case Qt::Key_Up:
-      hand_.GoToNextPlayable();
+      hand_.GoToNext(CardsHumanMayPlay());
       break;
     case Qt::Key_Down:
-      hand_.GoToPlayableBefore();
+      hand_.GoToOneBefore(CardsHumanMayPlay());
       break;
     case Qt::Key_Tab:
-      if (!hand_.GoToNextPlayable()) return false;
+      if (!hand_.GoToNext(CardsHumanMayPlay())) return false;
       break;
     case Qt::Key_Return:
     case Qt::Key_Enter:
