@@ -41,9 +41,8 @@ class CardSet {
   // The cards of the whole pack for which the condition holds.
   template <class Condition>
   static CardSet OfPack(Condition holds) {
-    constexpr int firstOfSuit[] = {1, 14, 27, 40};
     CardSet set;
-    for (const int first : firstOfSuit) set = set | OfSuit(first, holds);
+    for (int first = 1; first <= 40; first += 13) set = set | OfSuit(first, holds);
     return set;
   }
 

@@ -1,32 +1,32 @@
 #include "table/BidWalk.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "engine/GameState.h"
 
 namespace Parlino {
 namespace {
 
-constexpr int PerRow = 6;
 constexpr int AboveThirteen = 9;
 constexpr std::uint32_t MomentMs = 1000;
 
 }  // namespace
 
 void BidWalk::GoTo(int number) {
-  number_ = std::clamp(number, 1, TricksInHand);
-  oneWasTyped_ = false;
+  number = std::clamp(number, 1, TricksInHand);
+  if (std::exchange(number_, number) != number) oneWasTyped_ = false;
 }
 
 void BidWalk::GoUp() {
   if (number_ == TricksInHand)
     GoTo(AboveThirteen);
-  else if (number_ > PerRow)
-    GoTo(number_ - PerRow);
+  else if (number_ > BidsInRow)
+    GoTo(number_ - BidsInRow);
 }
 
 void BidWalk::GoDown() {
-  GoTo(number_ + (number_ > PerRow ? TricksInHand : PerRow));
+  GoTo(number_ > BidsInRow ? TricksInHand : number_ + BidsInRow);
 }
 
 void BidWalk::Type(int digit, std::uint32_t now) {

@@ -5,6 +5,8 @@
 
 namespace Parlino {
 
+inline constexpr int BidsInRow = 6;  // the thirteenth stands alone below them
+
 class BidWalk {
  public:
   // The marked number 1..13.

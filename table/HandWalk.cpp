@@ -13,6 +13,11 @@ Integer HighestOr(CardSet cards, Integer otherwise) {
   return cards.IsEmpty() ? otherwise : cards.Highest();
 }
 
+// A hand that is being dealt is not walked through; trumps are fixed when it lies there.
+CardSet Row() {
+  return TrumpSuit < Diamonds ? CardSet() : PlayersRow();
+}
+
 CardSet Below(CardSet cards, Integer card) {
   return cards.Between(1, card - 1);
 }
@@ -24,29 +29,29 @@ CardSet Above(CardSet cards, Integer card) {
 }  // namespace
 
 void HandWalk::Follow() {
-  const CardSet row = TrumpSuit < Diamonds ? CardSet() : PlayersRow();  // no trumps yet: dealing
+  const CardSet row = Row();
   if (row.Has(card_)) return;
   card_ = LowestOr(Above(row, card_), HighestOr(row, 0));
 }
 
 void HandWalk::GoTo(Integer card) {
-  if (PlayersRow().Has(card)) card_ = card;
+  if (Row().Has(card)) card_ = card;
 }
 
 void HandWalk::GoToFirst() {
-  card_ = LowestOr(PlayersRow(), card_);
+  card_ = LowestOr(Row(), card_);
 }
 
 void HandWalk::GoToLast() {
-  card_ = HighestOr(PlayersRow(), card_);
+  card_ = HighestOr(Row(), card_);
 }
 
 void HandWalk::GoLeft() {
-  card_ = HighestOr(Below(PlayersRow(), card_), card_);
+  card_ = HighestOr(Below(Row(), card_), card_);
 }
 
 void HandWalk::GoRight() {
-  card_ = LowestOr(Above(PlayersRow(), card_), card_);
+  card_ = LowestOr(Above(Row(), card_), card_);
 }
 
 bool HandWalk::GoToNext(CardSet cards) {
@@ -61,7 +66,7 @@ bool HandWalk::GoToOneBefore(CardSet cards) {
 
 void HandWalk::GoToNextOfSuit(Integer suit) {
   const Integer first = FirstCardOf(suit);
-  GoToNext(PlayersRow().Between(first, first + CardsInSuit - 1));
+  GoToNext(Row().Between(first, first + CardsInSuit - 1));
 }
 
 }  // namespace Parlino

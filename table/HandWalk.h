@@ -7,11 +7,11 @@ namespace Parlino {
 
 class HandWalk {
  public:
-  // The marked card 1..52, or 0 while no card lies in the Player's row.
+  // The marked card 1..52, or 0 while there is no hand or it is being dealt.
   [[nodiscard]] Integer Card() const { return card_; }
 
   // Looks at the hand again. The mark keeps to its card; when that has been played, to its place in
-  // the row, where the next card will lie, or to the last one. A hand that is being dealt has none.
+  // the row, where the next card will lie, or to the last one.
   void Follow();
 
   // Each moves the mark, if there is a card to move it to.

@@ -1,5 +1,6 @@
 // The bidding panel.
 #include "engine/GameState.h"
+#include "table/BidWalk.h"
 #include "table/TableEvents.h"
 #include "table/window/BidFace.h"
 #include "table/window/Design.h"
@@ -11,15 +12,13 @@
 namespace Parlino {
 namespace {
 
-// Six to a row; the thirteenth alone below them.
 QPoint BidFacePlace(int number) {
-  constexpr int perRow = 6;
   constexpr int firstLeft = 180;
   constexpr int firstTop = 360;
   constexpr int step = 450;
   if (number == TricksInHand) return ToPixels(TablePoint{1260, 1260});
-  const int column = (number - 1) % perRow;
-  const int row = (number - 1) / perRow;
+  const int column = (number - 1) % BidsInRow;
+  const int row = (number - 1) / BidsInRow;
   return {ToPixels(firstLeft + step * column), ToPixels(firstTop + step * row)};
 }
 

@@ -1,5 +1,7 @@
 #include "table/window/FocusMark.h"
 
+#include <utility>
+
 #include <QPainter>
 
 #include "table/window/Design.h"
@@ -8,10 +10,9 @@ namespace Parlino {
 namespace {
 
 constexpr int Thickness = 3;
-constexpr int PointerHeight = 9;
-constexpr int PointerWidth = 18;
+constexpr int PointerHeight = 10;
+constexpr int PointerWidth = 20;
 constexpr QMargins Around(PointerWidth / 2, PointerHeight + Thickness, PointerWidth / 2, Thickness);
-constexpr QColor Gold(255, 200, 40);
 
 }  // namespace
 
@@ -21,12 +22,15 @@ FocusMark::FocusMark(QWidget* table) : QWidget(table) {
   hide();
 }
 
-void FocusMark::Frame(QRect part) {
-  setGeometry(part.marginsAdded(Around));
+// The next card keeps its edge, with its rank behind it.
+void FocusMark::Frame(QRect card, int seenWidth, bool isPlayable) {
+  if (seenWidth < card.width()) card.setWidth(seenWidth - Thickness - 1);
+  setGeometry(card.marginsAdded(Around));
+  if (std::exchange(hasPointer_, isPlayable) != isPlayable) update();
 }
 
-// A frame with a pointer above it, so that its shape is seen where its colour is not; both have a
-// dark edge, for the cards are white and the table is dark.
+// Its shape is seen where its colour is not, and both have a dark edge: the cards are white and the
+// table is dark.
 void FocusMark::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
@@ -39,14 +43,15 @@ void FocusMark::paintEvent(QPaintEvent*) {
   };
   painter.setBrush(Qt::NoBrush);
   drawFrame(Colours::Navy, Thickness + 2);
-  drawFrame(Gold, Thickness);
+  drawFrame(Colours::Gold, Thickness);
 
+  if (!hasPointer_) return;
   const QPointF tip(part.center().x(), part.top() - Thickness - 1);
   const qreal half = PointerWidth / 2.0 - 2;
   const QPolygonF pointer{tip, tip + QPointF(-half, 1 - PointerHeight),
                           tip + QPointF(half, 1 - PointerHeight)};
   painter.setPen(QPen(Colours::Navy, 1));
-  painter.setBrush(Gold);
+  painter.setBrush(Colours::Gold);
   painter.drawPolygon(pointer);
 }
 

@@ -44,7 +44,6 @@ HelpWindow::HelpWindow(PendingEvents& pending, const QWidget& table)
   setObjectName("frmHelp");
   speak = [this] { return Spoken{QAccessible::Window, windowTitle()}; };
   setWindowTitle("Parlino Help");
-  setWindowIcon(table.windowIcon());
   setFont(TimesBold(9.75));
   setPalette(LightColours(Colours::EdgeGrey));
   text_->setAccessibleName("Help text");

@@ -17,8 +17,8 @@ class PendingEvents;
 
 class HelpWindow : public QWidget, public Speaker {
  public:
-  // `table` says on which screen the window opens and lends it its icon; it does not own it, for
-  // the help may lie behind the table.
+  // `table` says on which screen the window opens; it does not own it, for the help may lie behind
+  // the table.
   HelpWindow(PendingEvents& pending, const QWidget& table);
 
   void ShowModel(const HelpWindowView& help);

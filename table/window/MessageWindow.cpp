@@ -70,7 +70,6 @@ MessageWindow::MessageWindow(PendingEvents& pending, QWidget* owner)
   speak = [this] { return Spoken{QAccessible::Dialog, windowTitle()}; };
   setWindowModality(Qt::ApplicationModal);
   setAttribute(Qt::WA_OpaquePaintEvent);
-  setFocusPolicy(Qt::StrongFocus);
   for (std::size_t answer = 0; answer < faces_.size(); ++answer)
     faces_[answer] = new AnswerFace(static_cast<int>(answer), pending, this);
 }

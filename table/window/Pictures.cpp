@@ -3,7 +3,8 @@
 #include <map>
 #include <tuple>
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QIcon>
 #include <QPainter>
 #include <QSvgRenderer>
 
@@ -62,6 +63,13 @@ QPixmap SmallBack(qreal ratio) {
 
 QPixmap IconPicture(int size) {
   return Picture("icon", {size, size}, 1);
+}
+
+void GiveWindowsIcon() {
+  if (!QApplication::windowIcon().isNull()) return;
+  QIcon icon;
+  for (const int size : {16, 32, 48, 64, 128}) icon.addPixmap(IconPicture(size));
+  QApplication::setWindowIcon(icon);
 }
 
 }  // namespace Parlino

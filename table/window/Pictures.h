@@ -24,4 +24,7 @@ QPixmap SmallBack(qreal ratio);
 // The program's icon.
 QPixmap IconPicture(int size);
 
+// Gives the program's icon to all of its windows, from now on.
+void GiveWindowsIcon();
+
 }  // namespace Parlino

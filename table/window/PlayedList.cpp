@@ -71,6 +71,7 @@ PlayedList::PlayedList(QWidget* parent) : QListView(parent), lines_(new PlayedLi
   setEditTriggers(NoEditTriggers);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setTabKeyNavigation(false);
+  setSelectionMode(NoSelection);
   QPalette colours = palette();
   colours.setColor(QPalette::Base, Colours::Navy);
   colours.setColor(QPalette::Text, Colours::White);
@@ -82,9 +83,10 @@ PlayedList::PlayedList(QWidget* parent) : QListView(parent), lines_(new PlayedLi
 
 // The frame; the lines are painted by the viewport inside it.
 bool PlayedList::event(QEvent* event) {
+  if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) update();
   if (event->type() != QEvent::Paint) return QListView::event(event);
   QPainter painter(this);
-  DrawEdges(painter, rect(), Colours::EdgeGrey);
+  DrawEdges(painter, rect(), hasFocus() ? Colours::Gold : Colours::EdgeGrey);
   return true;
 }
 

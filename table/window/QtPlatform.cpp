@@ -17,6 +17,7 @@
 
 #include "engine/Errors.h"
 #include "table/window/Design.h"
+#include "table/window/Pictures.h"
 #include "table/window/WrappedText.h"
 
 namespace Parlino {
@@ -88,6 +89,7 @@ void QtPlatform::StartSound(std::string_view fileName) {
 // What was clicked before the box opened was meant for the table as it was; it is dropped.
 void QtPlatform::ShowAndWait(QDialog& box) {
   CloseMenus();
+  GiveWindowsIcon();
   for (QAbstractButton* button : box.findChildren<QAbstractButton*>()) button->setIcon({});
   box.setWindowModality(Qt::ApplicationModal);
   PutBefore(QApplication::activeWindow(), box);

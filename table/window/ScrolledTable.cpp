@@ -34,7 +34,10 @@ QSize ScrolledTable::WindowSize(QSize around, QSize room) const {
 // A control that is clicked is seen, and stays under the mouse.
 void ScrolledTable::ShowFocus(QWidget* focus) {
   const bool isOnTable = focus != nullptr && focus != widget() && widget()->isAncestorOf(focus);
-  if (isOnTable && QGuiApplication::mouseButtons() == Qt::NoButton) ensureWidgetVisible(focus);
+  // With what is said around it, such as the information line below the hand.
+  constexpr int aside = 60, above = 110;
+  if (isOnTable && QGuiApplication::mouseButtons() == Qt::NoButton)
+    ensureWidgetVisible(focus, aside, above);
 }
 
 // The arrows belong to the game. The page keys scroll, sideways with Shift.

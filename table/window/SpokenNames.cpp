@@ -57,8 +57,7 @@ Spoken SpokenTrick(Integer seat, int trick) {
 }
 
 Spoken SpokenSeat(Integer seat) {
-  if (!HandIsUnderWay())
-    return {.name = SeatWord(seat) + ": " + ToText(Table.LblName[seat].Caption).simplified()};
+  if (!HandIsUnderWay()) return {.name = ToText(Table.LblName[seat].Caption).simplified()};
   const QString bid = Bids[seat] < 1 ? "no bid yet" : QString("bid %1").arg(Bids[seat]);
   return {.name = QString("%1: %2, took %3").arg(SeatTitle(seat), bid).arg(TricksWon[seat])};
 }

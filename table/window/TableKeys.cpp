@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QPushButton>
 
 #include "engine/TrickPlay.h"
 #include "platform/Platform.h"
@@ -66,18 +67,22 @@ void TableKeys::LeaveBidding() {
 }
 
 void TableKeys::Follow() {
-  const QWidget* focus = table_.window()->focusWidget();
-  const bool isOnHand = focus == nullptr || focus == &table_ || focus == card_;
   const bool wasBidding = std::exchange(isBidding_, Table.FramBids.Visible);
   hand_.Follow();
   MarkCard();
   if (isBidding_ && !wasBidding) {
     bid_.GoTo(1);
     GoToBid();
-  } else if (isOnHand) {
+  } else if (IsOnHand()) {
     GoToCard();
   }
   ShowMark();
+}
+
+// Also on the table itself, or on a card that no longer is in the hand.
+bool TableKeys::IsOnHand() const {
+  const QWidget* focus = table_.window()->focusWidget();
+  return focus == nullptr || focus == &table_ || dynamic_cast<const PictureView*>(focus) != nullptr;
 }
 
 bool TableKeys::eventFilter(QObject* watched, QEvent* event) {
@@ -85,18 +90,15 @@ bool TableKeys::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseButtonPress:
       NoteUse(false);
       break;
-    case QEvent::ShortcutOverride:
-      NoteUse(keysAreUsed_ || !IsModifier(static_cast<QKeyEvent&>(*event)));
+    case QEvent::ShortcutOverride:  // comes before every key, and goes on to the parents
+      if (watched == table_.window()->focusWidget()) NoteKey(static_cast<QKeyEvent&>(*event));
       break;
     case QEvent::KeyPress:
       if (watched == &table_ || watched == card_) return TakeKey(static_cast<QKeyEvent&>(*event));
+      if (watched == face_) return OnlyShowsMark(static_cast<QKeyEvent&>(*event));
       break;
     case QEvent::FocusIn:
-      // An assistive tool may have moved it.
-      if (const auto* view = dynamic_cast<const PictureView*>(watched)) {
-        hand_.GoTo(view->Picture());
-        MarkCard();
-      }
+      FollowFocus(*watched);
       [[fallthrough]];
     case QEvent::FocusOut:
       ShowMark();
@@ -110,6 +112,28 @@ bool TableKeys::eventFilter(QObject* watched, QEvent* event) {
   return false;
 }
 
+// The mouse or an assistive tool may have moved the focus.
+void TableKeys::FollowFocus(const QObject& focus) {
+  if (const auto* view = dynamic_cast<const PictureView*>(&focus)) {
+    hand_.GoTo(view->Picture());
+    MarkCard();
+  } else if (const auto* face = dynamic_cast<const BidFace*>(&focus)) {
+    bid_.GoTo(face->text().toInt());
+    MarkBid();
+  }
+}
+
+void TableKeys::NoteKey(const QKeyEvent& key) {
+  if (IsModifier(key)) return;
+  wasUnmarked_ = !keysAreUsed_;
+  NoteUse(true);
+}
+
+// Nobody bids or plays what was not marked: neither can be taken back.
+bool TableKeys::OnlyShowsMark(const QKeyEvent& key) const {
+  return wasUnmarked_ && (IsEnter(key) || key.key() == Qt::Key_Space);
+}
+
 // The mark is for whoever plays by the keys.
 void TableKeys::NoteUse(bool ofKeys) {
   keysAreUsed_ = ofKeys;
@@ -120,10 +144,13 @@ void TableKeys::NoteUse(bool ofKeys) {
 bool TableKeys::TakeKey(const QKeyEvent& key) {
   if (!IsPlain(key)) return false;
   QWidget* focus = table_.window()->focusWidget();
+  if (auto* button = dynamic_cast<QPushButton*>(focus); button != nullptr && IsEnter(key)) {
+    button->click();
+    return true;
+  }
   const bool isOnBids = dynamic_cast<BidFace*>(focus) != nullptr;
-  const bool isOnHand = focus == &table_ || (focus == card_ && card_ != nullptr);
-  if (isBidding_ && (isOnBids || isOnHand) && TakeDigit(key)) return true;
-  return (isOnBids && TakeBidKey(key)) || (isOnHand && TakeHandKey(key));
+  if (isBidding_ && (isOnBids || IsOnHand()) && TakeDigit(key)) return true;
+  return (isOnBids && TakeBidKey(key)) || (IsOnHand() && TakeHandKey(key));
 }
 
 bool TableKeys::TakeDigit(const QKeyEvent& key) {
@@ -200,15 +227,20 @@ bool TableKeys::TakeHandKey(const QKeyEvent& key) {
 
 // A key held down plays no second card.
 void TableKeys::PlayMarkedCard(const QKeyEvent& key) {
-  if (card_ != nullptr && !key.isAutoRepeat()) pending_.Append({ClickCard, hand_.Card()});
+  if (card_ == nullptr || key.isAutoRepeat() || OnlyShowsMark(key)) return;
+  pending_.Append({ClickCard, hand_.Card()});
 }
 
 // Only the marked one of the numbers, and of the cards, is a stop of the Tab key.
-void TableKeys::GoToBid() {
+void TableKeys::MarkBid() {
   if (face_ != nullptr) face_->setFocusPolicy(Qt::ClickFocus);
-  face_ = dynamic_cast<BidFace*>(FindMember(table_, "LblBids", bid_.Number()));
+  face_ = &dynamic_cast<BidFace&>(*FindMember(table_, "LblBids", bid_.Number()));
   face_->setFocusPolicy(Qt::StrongFocus);
   face_->MarkFocus(keysAreUsed_);
+}
+
+void TableKeys::GoToBid() {
+  MarkBid();
   face_->setFocus();
 }
 
@@ -222,19 +254,19 @@ void TableKeys::MarkCard() {
 
 void TableKeys::GoToCard() {
   MarkCard();
-  if (card_ != nullptr && table_.window()->focusWidget() != card_) card_->setFocus();
+  QWidget* place = card_ != nullptr ? card_ : &table_;
+  if (table_.window()->focusWidget() != place) place->setFocus();
 }
 
 void TableKeys::ShowMark() {
   if (card_ == nullptr || !card_->hasFocus() || !keysAreUsed_) return mark_.hide();
-  // The next card lies over this one.
-  QRect seen = card_->geometry();
+  int seenWidth = card_->width();
   const CardSet after = PlayersRow().Between(hand_.Card() + 1, CardsInPack);
   if (!after.IsEmpty()) {
-    const double step = Table.Cds[after.Lowest()].Place.Left - Table.Cds[hand_.Card()].Place.Left;
-    seen.setWidth(std::min(seen.width(), ToPixels(step)));
+    const TablePoint next = Table.Cds[after.Lowest()].Place;
+    seenWidth = std::min(seenWidth, ToPixels(next.Left - Table.Cds[hand_.Card()].Place.Left));
   }
-  mark_.Frame(seen);
+  mark_.Frame(card_->geometry(), seenWidth, CardsHumanMayPlay().Has(hand_.Card()));
   mark_.show();
 }
 

@@ -35,12 +35,17 @@ class TableKeys : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void FollowFocus(const QObject& focus);
+  void NoteKey(const QKeyEvent& key);
   void NoteUse(bool ofKeys);
+  [[nodiscard]] bool OnlyShowsMark(const QKeyEvent& key) const;
+  [[nodiscard]] bool IsOnHand() const;
   bool TakeKey(const QKeyEvent& key);
   bool TakeDigit(const QKeyEvent& key);
   bool TakeBidKey(const QKeyEvent& key);
   bool TakeHandKey(const QKeyEvent& key);
   void PlayMarkedCard(const QKeyEvent& key);
+  void MarkBid();
   void GoToBid();
   void MarkCard();
   void GoToCard();
@@ -55,6 +60,7 @@ class TableKeys : public QObject {
   BidFace* face_ = nullptr;  // and the number
   bool isBidding_ = false;
   bool keysAreUsed_ = false;
+  bool wasUnmarked_ = true;  // when the last key was pressed
 };
 
 }  // namespace Parlino

@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include <QCloseEvent>
-#include <QIcon>
 #include <QMenuBar>
 #include <QPainter>
 #include <QScreen>
@@ -100,14 +99,8 @@ void TableWindow::FitToScreen() {
 
 // Comes after the table has been seen for the first time: nobody waits for it.
 void TableWindow::FollowDesktop() {
-  TakeIcon();
+  GiveWindowsIcon();
   desktop_.emplace([this](bool wantsMotion) { glides_.Allow(wantsMotion); });
-}
-
-void TableWindow::TakeIcon() {
-  QIcon icon;
-  for (const int size : {16, 32, 48, 64, 128}) icon.addPixmap(IconPicture(size));
-  setWindowIcon(icon);
 }
 
 void TableWindow::paintEvent(QPaintEvent*) {

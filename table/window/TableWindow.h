@@ -39,7 +39,6 @@ class TableWindow : public QWidget, public Speaker {
   void BuildTable();
   void FitToScreen();
   void FollowDesktop();
-  void TakeIcon();
 
   PendingEvents& pending_;
   Glides glides_;

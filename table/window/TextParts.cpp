@@ -102,7 +102,9 @@ void BuildWelcomeButton(const PartsBin& bin) {
   auto* button = Named(new QPushButton(&bin.parent), "CmdDontShow");
   button->setGeometry(ToPixels(2880, 8520, 5775, 375));
   button->setFont(WindowFont());
-  button->setPalette(LightColours(Colours::LightGrey, Colours::Peach));
+  QPalette colours = LightColours(Colours::LightGrey, Colours::Peach);
+  colours.setColor(QPalette::Highlight, Colours::Gold);
+  button->setPalette(colours);
   QObject::connect(button, &QPushButton::clicked, [&pending = bin.pending] {
     pending.Append({[](int) { return ClickDontShow(); }});
   });

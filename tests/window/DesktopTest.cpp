@@ -55,6 +55,19 @@ TEST_F(DesktopWindow, TheFocusIsBroughtIntoSight) {
   }
 }
 
+TEST_F(DesktopWindow, ThePageKeysScrollWhereverTheFocusIs) {
+  window.resize(500, 300);
+  game.Turn();
+  for (const auto& [bar, shift] : {std::pair(room.verticalScrollBar(), Qt::NoModifier),
+                                   {room.horizontalScrollBar(), Qt::ShiftModifier}}) {
+    bar->setValue(bar->maximum());
+    PressKey(Qt::Key_PageUp, shift);
+    EXPECT_LT(bar->value(), bar->maximum());
+    PressKey(Qt::Key_PageDown, shift);
+    EXPECT_EQ(bar->value(), bar->maximum());
+  }
+}
+
 // It would slip away from under the mouse, and the click be lost.
 TEST_F(DesktopWindow, AControlThatIsPressedStaysWhereItIs) {
   window.resize(640, 240);

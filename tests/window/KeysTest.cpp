@@ -150,7 +150,59 @@ TEST_F(TableKeysTest, RaiseTheEventsOfTheMouseAndNoOthers) {
   EXPECT_EQ(raised, "card 31 card 18 card 18 ");
 }
 
+TEST_F(TableKeysTest, NothingIsPlayedOrBidThatWasNotMarked) {
+  QWidget& panel = game.Find("FramBids");
+  for (const bool isBidding : {false, true}) {
+    SetVisible(Table.FramBids, isBidding);
+    game.Turn();
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
+      Click(game.Find("Table"));
+      Press({key});
+      EXPECT_EQ(raised, "") << isBidding;
+    }
+  }
+  // A button that was pressed by the mouse after all, and let go elsewhere.
+  Press({Qt::Key_Right});
+  QTest::mousePress(&game.Find("LblBids(11)"), Qt::LeftButton);
+  QTest::mouseRelease(&game.Find("LblBids(11)"), Qt::LeftButton, {}, {-50, 0});
+  game.Find("LblBids(11)").setFocus();
+  Press({Qt::Key_Left, Qt::Key_Return});
+  EXPECT_EQ(raised, "bid 10 ");
+  EXPECT_TRUE(panel.isVisible());
+}
+
+TEST_F(TableKeysTest, ThePanelOpensAtOneAndTheMarkOfANumberIsSeen) {
+  for (int round = 1; round <= 2; ++round) {
+    Show(Table.FramBids);
+    game.Turn();
+    EXPECT_EQ(FocusName(), "LblBids(1)");
+    const QImage plain = game.Find("LblBids(7)").grab().toImage();
+    Press({Qt::Key_7});
+    EXPECT_NE(game.Find("LblBids(7)").grab().toImage(), plain);
+    Hide(Table.FramBids);
+    game.Turn();
+    EXPECT_EQ(FocusName(), "Cds(5)");
+  }
+}
+
+TEST_F(TableKeysTest, AnotherHandIsWalkedThroughOnceItIsDealt) {
+  Press({Qt::Key_End});
+  PlacePackDeal();
+  TrumpSuit = -1;
+  game.Turn();
+  EXPECT_EQ(FocusName(), "Table");
+  for (const int card : {7, 9, 50}) Pack[card].Owner = Player;
+  ShowPlayerHand();
+  Press({Qt::Key_Right, Qt::Key_Return});
+  EXPECT_EQ(FocusName(), "Table") << "while the cards come";
+  TrumpSuit = Hearts;
+  game.Turn();
+  EXPECT_EQ(FocusName(), "Cds(7)");
+  EXPECT_EQ(raised, "");
+}
+
 TEST_F(TableKeysTest, AKeyHeldDownPlaysAndBidsOnce) {
+  Press({Qt::Key_Home});
   QTest::sendKeyEvent(QTest::Press, Focus(), Qt::Key_Return, QString("\r"), Qt::NoModifier);
   const auto repeat = [] {
     QKeyEvent again(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
@@ -174,7 +226,7 @@ TEST_F(TableKeysTest, KeysInTheListOrWithCtrlMeanNothingForTheHand) {
   PressKey(Qt::Key_H, Qt::AltModifier);
   Press({Qt::Key_Escape, Qt::Key_Tab});
   EXPECT_EQ(FocusName(), "Cds(5)");
-  PressKey(Qt::Key_S, Qt::ControlModifier);
+  for (const Qt::Key key : {Qt::Key_S, Qt::Key_H, Qt::Key_End}) PressKey(key, Qt::ControlModifier);
   game.Turn();
   EXPECT_EQ(FocusName(), "Cds(5)");
   EXPECT_EQ(raised, "");
@@ -204,18 +256,29 @@ TEST_F(TableKeysTest, TabStaysWithTheCardsThatMayBePlayedAndShiftTabLeaves) {
 }
 
 TEST_F(TableKeysTest, TheMarkIsForTheKeysAndFramesWhatIsSeenOfTheCard) {
-  const QWidget& mark = game.Find("FocusMark");
+  QWidget& mark = game.Find("FocusMark");
   Press({Qt::Key_Right});
   EXPECT_TRUE(mark.isVisible());
-  EXPECT_LT(mark.width(), game.Find("Cds(18)").width());
+  EXPECT_LT(mark.geometry().right() - 9, game.Find("Cds(31)").x()) << "it covers the next card";
   EXPECT_TRUE(mark.geometry().contains(game.Find("Cds(18)").pos()));
   Press({Qt::Key_End});
   EXPECT_TRUE(mark.geometry().contains(game.Find("Cds(44)").geometry()));
+  const QImage outOfTurn = mark.grab().toImage();
+  PlayerTurn = True;
+  Press({Qt::Key_End});
+  EXPECT_NE(mark.grab().toImage(), outOfTurn) << "whether it may be played is not to be seen";
   Click(game.Find("Cds(5)"));
   game.Turn();
   EXPECT_FALSE(mark.isVisible());
-  Press({Qt::Key_Left});
+  PressKey(Qt::Key_Control);
+  EXPECT_FALSE(mark.isVisible());
+  Press({Qt::Key_Home});
   EXPECT_TRUE(mark.isVisible());
+  const QWidget* underMark = game.Find("Table").childAt(game.Find("Cds(5)").pos() + QPoint(2, 2));
+  EXPECT_EQ(underMark, Focus()) << "the mark takes the clicks of its card";
+  const QPoint place = mark.pos();
+  game.Find("Cds(5)").move(game.Find("Cds(5)").pos() + QPoint(7, 0));
+  EXPECT_EQ(mark.pos(), place + QPoint(7, 0));
 }
 
 }  // namespace

@@ -40,7 +40,7 @@ TEST(LongNames, AreShownAndSpokenAsTheyStand) {
   game.Turn();
   const auto& label = dynamic_cast<QLabel&>(game.FindMember("LblName", Player));
   EXPECT_EQ(label.textFormat(), Qt::PlainText);
-  EXPECT_EQ(SpokenSeat(Player).name, "Player: <b>Bo</b> & Co");
+  EXPECT_EQ(SpokenSeat(Player).name, "<b>Bo</b> & Co");
   EXPECT_EQ(PlainToolTip(label.text()), "<span>&lt;b&gt;Bo&lt;/b&gt; &amp; Co</span>");
 }
 

@@ -127,6 +127,7 @@ class Listener {
     const Voice dialog = VoiceOf("MFormDeluxe");
     EXPECT_EQ(dialog->role(), QAccessible::Dialog);
     EXPECT_EQ(NameOf(dialog), "Scores");
+    EXPECT_TRUE(dialog->state().modal);
     EXPECT_TRUE(dialog->text(QAccessible::Description).startsWith("Player and North have scored"));
     ExpectNamesAndRoles("MFormDeluxe");
     PressVoice(FindVoice("MFormDeluxe", "Save and Exit"));
@@ -202,6 +203,30 @@ TEST_F(SpokenTable, CardsSayWhatCanBeSeen) {
   EXPECT_EQ(says(3).name, "Four of Diamonds, 1 of 3");
   TrickSuits[1] = Spades;
   EXPECT_EQ(says(3).name, "Four of Diamonds, playable, 1 of 3");
+}
+
+TEST_F(SpokenTable, SeatsAndTrumpsSayWhatIsKnown) {
+  constexpr std::pair<Integer, const char*> suits[] = {{PictureHearts, "Trumps Hearts"},
+                                                       {PictureClubs, "Trumps Clubs"},
+                                                       {PictureDiamonds, "Trumps Diamonds"},
+                                                       {PictureSpades, "Trumps Spades"}};
+  EXPECT_TRUE(SpokenTrumps().isOnlyForEyes);
+  for (const auto& [picture, spoken] : suits) {
+    SetPicture(Table.imgtrumps, picture);
+    EXPECT_EQ(SpokenTrumps().name, spoken);
+  }
+  EXPECT_EQ(SpokenSeat(West).name, "West- Welcome Player");
+  SeatNames[West] = "Bob";
+  QStringList said;
+  game.platform.person = [&] {
+    if (const QString now = SpokenSeat(West).name; said.isEmpty() || said.last() != now)
+      said.append(now);
+    if (Bids[West] > 0) throw SeenEnough{};
+    if (Table.FramBids.Visible) ClickBid(3);
+  };
+  EXPECT_THROW(ChooseMenu(MenuItem::MnuNew), SeenEnough);
+  EXPECT_EQ(said.first(), "West, Bob: no bid yet, took 0");
+  EXPECT_EQ(said.last(), QString("West, Bob: bid %1, took 0").arg(Bids[West]));
 }
 
 TEST_F(SpokenTable, AToolMayMoveTheFocusAndTheKeysGoOnFromThere) {
