@@ -71,10 +71,11 @@ PlayedList::PlayedList(QWidget* parent) : QListView(parent), lines_(new PlayedLi
   setEditTriggers(NoEditTriggers);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setTabKeyNavigation(false);
-  setSelectionMode(NoSelection);
   QPalette colours = palette();
   colours.setColor(QPalette::Base, Colours::Navy);
   colours.setColor(QPalette::Text, Colours::White);
+  colours.setColor(QPalette::Highlight, Colours::Gold);
+  colours.setColor(QPalette::HighlightedText, Colours::Navy);
   setPalette(colours);
   verticalScrollBar()->setPalette(QApplication::palette());
   // Its menu would run a loop of the toolkit's own, and the game would stand still meanwhile.
@@ -83,11 +84,27 @@ PlayedList::PlayedList(QWidget* parent) : QListView(parent), lines_(new PlayedLi
 
 // The frame; the lines are painted by the viewport inside it.
 bool PlayedList::event(QEvent* event) {
-  if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) update();
   if (event->type() != QEvent::Paint) return QListView::event(event);
   QPainter painter(this);
   DrawEdges(painter, rect(), hasFocus() ? Colours::Gold : Colours::EdgeGrey);
   return true;
+}
+
+// Whoever comes by the keys begins at the newest line.
+void PlayedList::focusInEvent(QFocusEvent* event) {
+  if (!currentIndex().isValid() && event->reason() != Qt::MouseFocusReason)
+    setCurrentIndex(lines_->index(lines_->rowCount({}) - 1));
+  QListView::focusInEvent(event);
+  update();
+}
+
+// Only what has the focus is marked.
+void PlayedList::focusOutEvent(QFocusEvent* event) {
+  QListView::focusOutEvent(event);
+  const bool comesBack =
+      event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
+  if (!comesBack) selectionModel()->clear();
+  update();
 }
 
 void PlayedList::ShowModel(const ListBox& list) {

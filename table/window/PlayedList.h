@@ -17,6 +17,8 @@ class PlayedList : public QListView {
 
  protected:
   bool event(QEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
 
  private:
   PlayedLines* lines_;

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QListView>
 #include <QTest>
 
 #include "WindowGame.h"
@@ -220,12 +221,18 @@ TEST_F(TableKeysTest, AKeyHeldDownPlaysAndBidsOnce) {
 }
 
 TEST_F(TableKeysTest, KeysInTheListOrWithCtrlMeanNothingForTheHand) {
-  game.Find("LstCardsPlayed").setFocus();
-  Press({Qt::Key_Return, Qt::Key_Space, Qt::Key_3});
+  for (const char* line : {"West played", "North played", "East played"})
+    AddLine(Table.LstCardsPlayed, {line});
+  game.Turn();
+  auto& list = dynamic_cast<QListView&>(game.Find("LstCardsPlayed"));
+  list.setFocus();
+  Press({Qt::Key_Return, Qt::Key_Space, Qt::Key_3, Qt::Key_Up});
   EXPECT_EQ(FocusName(), "LstCardsPlayed");
+  EXPECT_EQ(list.currentIndex().data().toString(), "North played");
   PressKey(Qt::Key_H, Qt::AltModifier);
   Press({Qt::Key_Escape, Qt::Key_Tab});
   EXPECT_EQ(FocusName(), "Cds(5)");
+  EXPECT_FALSE(list.selectionModel()->hasSelection()) << "it looks as if it had the focus";
   for (const Qt::Key key : {Qt::Key_S, Qt::Key_H, Qt::Key_End}) PressKey(key, Qt::ControlModifier);
   game.Turn();
   EXPECT_EQ(FocusName(), "Cds(5)");
