@@ -4,6 +4,7 @@
 
 #include <QTextTable>
 
+#include "richtext/Limits.h"
 #include "table/window/TextWriter.h"
 
 namespace Parlino {
@@ -20,9 +21,9 @@ constexpr int MostCells = 20'000;  // of the grid, not only those that hold some
 // The right edges of the row's cells, each wide enough to be seen.
 std::vector<int> RightEdges(const Row& row) {
   std::vector<int> edges;
-  int before = std::max(0, row.LeftEdge);
+  int before = std::max(0, RichText::ToEdge(row.LeftEdge));
   for (const Cell& cell : row.Cells) {
-    before = std::max(cell.RightEdge, before + CloseEdges);
+    before = std::max(RichText::ToEdge(cell.RightEdge), before + CloseEdges);
     edges.push_back(before);
   }
   return edges;
