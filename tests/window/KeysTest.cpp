@@ -180,9 +180,13 @@ TEST_F(TableKeysTest, ThePanelOpensAtOneAndTheMarkOfANumberIsSeen) {
     const QImage plain = game.Find("LblBids(7)").grab().toImage();
     Press({Qt::Key_7});
     EXPECT_NE(game.Find("LblBids(7)").grab().toImage(), plain);
+    std::string way;  // of the focus, for tools read every stop
+    const auto watching =
+        QObject::connect(qApp, &QApplication::focusChanged, [&way] { way += FocusName() + " "; });
     Hide(Table.FramBids);
     game.Turn();
-    EXPECT_EQ(FocusName(), "Cds(5)");
+    QObject::disconnect(watching);
+    EXPECT_EQ(way, "Cds(5) ");
   }
 }
 
@@ -279,6 +283,9 @@ TEST_F(TableKeysTest, TheMarkIsForTheKeysAndFramesWhatIsSeenOfTheCard) {
   EXPECT_FALSE(mark.isVisible());
   PressKey(Qt::Key_Control);
   EXPECT_FALSE(mark.isVisible());
+  Press({Qt::Key_Left, Qt::Key_Backtab});
+  EXPECT_FALSE(mark.isVisible()) << "the list has the focus";
+  Press({Qt::Key_Tab});
   Press({Qt::Key_Home});
   EXPECT_TRUE(mark.isVisible());
   const QWidget* underMark = game.Find("Table").childAt(game.Find("Cds(5)").pos() + QPoint(2, 2));
