@@ -116,7 +116,7 @@ class Hand:
         self.reader.wait_for(f"the focus on '{part.name}' told", lambda: part.has(
             Atspi.StateType.FOCUSED) and any(
             event.kind == "object:state-changed:focused" and event.is_on
-            and event.name == part.name for event in self.reader.events[before:]), seconds=10)
+            and event.name == part.name for event in self.reader.events[before:]))
 
     def read_seats(self):
         """{seat: (bid, tricks taken)} as the labels beside the seats say."""
@@ -200,7 +200,7 @@ class Hand:
             self.reader.listen(seconds)
             return self.reader.events[before:]
 
-        self.reader.wait_for("the program to fall silent", lambda: not told_within(1), seconds=20)
+        self.reader.wait_for("the program to fall silent", lambda: not told_within(1))
         told = told_within(seconds, read=lambda: list(self.reader.parts()))
         print(f"Events while the table is read and for {seconds} s more: {len(told)}")
         expect(not told, f"no events while nothing happens, not {len(told)}")
