@@ -18,6 +18,10 @@ void BidWalk::GoTo(int number) {
   if (std::exchange(number_, number) != number) oneWasTyped_ = false;
 }
 
+void BidWalk::GoToLast() {
+  GoTo(TricksInHand);
+}
+
 void BidWalk::GoUp() {
   if (number_ == TricksInHand)
     GoTo(AboveThirteen);

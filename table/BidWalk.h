@@ -13,6 +13,8 @@ class BidWalk {
   [[nodiscard]] int Number() const { return number_; }
 
   void GoTo(int number);
+  void GoToFirst() { GoTo(1); }
+  void GoToLast();
   // Steps along the numbers, and between the rows of six with the thirteenth below them; at the
   // edge of the panel the mark stays.
   void GoLeft() { GoTo(number_ - 1); }

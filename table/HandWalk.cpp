@@ -31,7 +31,7 @@ CardSet Above(CardSet cards, Integer card) {
 void HandWalk::Follow() {
   const CardSet row = Row();
   if (row.Has(card_)) return;
-  card_ = LowestOr(Above(row, card_), HighestOr(row, 0));
+  card_ = LowestOr(Above(row, card_), row.Highest());
 }
 
 void HandWalk::GoTo(Integer card) {

@@ -121,7 +121,7 @@ void FindLine::ShowFound(const char* note) {
 
 void FindLine::Say(const char* note, bool isFound) {
   note_->setText(note);
-  if (!note_->text().isEmpty()) ReadOut(note_);
+  if (!note_->text().isEmpty()) TellTools(note_, QAccessible::ObjectShow);
   SetGround(*words_, isFound ? Colours::White : Colours::Pink);
 }
 

@@ -1,8 +1,6 @@
 // The frame that shows what each seat and team has bid and made.
 #pragma once
 
-#include <QString>
-
 #include "table/window/CaptionLabel.h"
 #include "table/window/FrameBox.h"
 

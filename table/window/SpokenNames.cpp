@@ -1,7 +1,5 @@
 #include "table/window/SpokenNames.h"
 
-#include <algorithm>
-
 #include "engine/GameState.h"
 #include "engine/RoundDriver.h"
 #include "engine/TrickPlay.h"

@@ -64,12 +64,7 @@ void IntroduceSpeakers() {
   QAccessible::installFactory(FindVoice);
 }
 
-void ReadOut(QWidget* notification) {
-  QAccessibleEvent event(notification, QAccessible::ObjectShow);
-  QAccessible::updateAccessibility(&event);
-}
-
-void SpokenChanges::ReportToTools(QWidget* widget, QAccessible::Event what) {
+void TellTools(QWidget* widget, QAccessible::Event what) {
   QAccessibleEvent event(widget, what);
   QAccessible::updateAccessibility(&event);
 }

@@ -16,8 +16,8 @@ namespace Parlino {
 // asked.
 void IntroduceSpeakers();
 
-// Has listening tools read a notification: they do so when it comes to be seen.
-void ReadOut(QWidget* notification);
+// Tells listening tools of one event. A notification that is shown is read out by them.
+void TellTools(QWidget* widget, QAccessible::Event what);
 
 // Tells listening tools when a part of the table says something else than before, and only then.
 class SpokenChanges {
@@ -29,7 +29,7 @@ class SpokenChanges {
 
   // Whether a tool listens, and how it is told; the toolkit knows both.
   std::function<bool()> isHeard = QAccessible::isActive;
-  std::function<void(QWidget* widget, QAccessible::Event what)> report = ReportToTools;
+  std::function<void(QWidget* widget, QAccessible::Event what)> report = TellTools;
 
  private:
   struct Told {
@@ -38,7 +38,6 @@ class SpokenChanges {
     Spoken last;
   };
 
-  static void ReportToTools(QWidget* widget, QAccessible::Event what);
   void MeetSpeakers();
 
   const QWidget& table_;

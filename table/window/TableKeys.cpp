@@ -55,6 +55,30 @@ std::optional<Integer> SuitOf(const QKeyEvent& key) {
   }
 }
 
+// The keys that always lead the same way.
+template <class Walk>
+struct Way {
+  Qt::Key key;
+  void (Walk::*go)();
+};
+
+constexpr Way<BidWalk> BidWays[] = {
+    {Qt::Key_Left, &BidWalk::GoLeft},    {Qt::Key_Right, &BidWalk::GoRight},
+    {Qt::Key_Up, &BidWalk::GoUp},        {Qt::Key_Down, &BidWalk::GoDown},
+    {Qt::Key_Home, &BidWalk::GoToFirst}, {Qt::Key_End, &BidWalk::GoToLast}};
+constexpr Way<HandWalk> HandWays[] = {{Qt::Key_Left, &HandWalk::GoLeft},
+                                      {Qt::Key_Right, &HandWalk::GoRight},
+                                      {Qt::Key_Home, &HandWalk::GoToFirst},
+                                      {Qt::Key_End, &HandWalk::GoToLast}};
+
+template <class Walk, std::size_t count>
+bool Go(Walk& walk, const Way<Walk> (&ways)[count], const QKeyEvent& key) {
+  const auto* way = std::ranges::find(ways, key.key(), &Way<Walk>::key);
+  if (way == std::end(ways)) return false;
+  (walk.*way->go)();
+  return true;
+}
+
 }  // namespace
 
 TableKeys::TableKeys(QWidget& table, PendingEvents& pending)
@@ -162,66 +186,33 @@ bool TableKeys::TakeDigit(const QKeyEvent& key) {
 }
 
 bool TableKeys::TakeBidKey(const QKeyEvent& key) {
-  switch (key.key()) {
-    case Qt::Key_Left:
-      bid_.GoLeft();
-      break;
-    case Qt::Key_Right:
-      bid_.GoRight();
-      break;
-    case Qt::Key_Up:
-      bid_.GoUp();
-      break;
-    case Qt::Key_Down:
-      bid_.GoDown();
-      break;
-    case Qt::Key_Home:
-      bid_.GoTo(1);
-      break;
-    case Qt::Key_End:
-      bid_.GoTo(TricksInHand);
-      break;
-    default:
-      return false;
-  }
+  if (!Go(bid_, BidWays, key)) return false;
   GoToBid();
   return true;
 }
 
 bool TableKeys::TakeHandKey(const QKeyEvent& key) {
-  switch (key.key()) {
-    case Qt::Key_Left:
-      hand_.GoLeft();
-      break;
-    case Qt::Key_Right:
-      hand_.GoRight();
-      break;
-    case Qt::Key_Home:
-      hand_.GoToFirst();
-      break;
-    case Qt::Key_End:
-      hand_.GoToLast();
-      break;
-    case Qt::Key_Up:
-      hand_.GoToNext(CardsHumanMayPlay());
-      break;
-    case Qt::Key_Down:
-      hand_.GoToOneBefore(CardsHumanMayPlay());
-      break;
-    case Qt::Key_Tab:
-      if (!hand_.GoToNext(CardsHumanMayPlay())) return false;
-      break;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Space:
-      PlayMarkedCard(key);
-      return true;
-    default:
-      const auto suit = SuitOf(key);
-      if (!suit) return false;
-      hand_.GoToNextOfSuit(*suit);
+  if (IsEnter(key) || key.key() == Qt::Key_Space) {
+    PlayMarkedCard(key);
+    return true;
   }
+  if (!Go(hand_, HandWays, key) && !GoToSomeCard(key)) return false;
   GoToCard();
+  return true;
+}
+
+bool TableKeys::GoToSomeCard(const QKeyEvent& key) {
+  const CardSet playable = CardsHumanMayPlay();
+  if (key.key() == Qt::Key_Tab) return hand_.GoToNext(playable);
+  if (key.key() == Qt::Key_Up) {
+    hand_.GoToNext(playable);
+  } else if (key.key() == Qt::Key_Down) {
+    hand_.GoToOneBefore(playable);
+  } else {
+    const auto suit = SuitOf(key);
+    if (!suit) return false;
+    hand_.GoToNextOfSuit(*suit);
+  }
   return true;
 }
 

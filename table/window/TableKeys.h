@@ -44,6 +44,7 @@ class TableKeys : public QObject {
   bool TakeDigit(const QKeyEvent& key);
   bool TakeBidKey(const QKeyEvent& key);
   bool TakeHandKey(const QKeyEvent& key);
+  bool GoToSomeCard(const QKeyEvent& key);
   void PlayMarkedCard(const QKeyEvent& key);
   void MarkBid();
   void GoToBid();
