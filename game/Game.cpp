@@ -7,6 +7,7 @@
 #include "persistence/PlayerCommands.h"
 #include "platform/Platform.h"
 #include "table/CardDisplay.h"
+#include "table/ErrorReport.h"
 #include "table/HelpAndAbout.h"
 #include "table/MessageDialog.h"
 #include "table/TableEvents.h"
@@ -53,7 +54,7 @@ void SetUpGame(Platform& platform) {
 int RunGame() {
   try {
     Events.Form_Load();
-    while (true) WaitForEvents();
+    while (true) ReportErrors("RunGame", WaitForEvents);
   } catch (const ProgramEnded&) {
     return 0;
   }

@@ -9,7 +9,8 @@ class Platform;
 // program, and every event bound to its handler.
 void SetUpGame(Platform& platform);
 
-// Loads the table window and processes events until the program ends. Returns the exit status.
+// Loads the table window and processes events until the program ends. Reports the error of a
+// handler that has no report of its own, and goes on. Returns the exit status.
 int RunGame();
 
 }  // namespace Parlino

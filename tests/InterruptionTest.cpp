@@ -1,5 +1,7 @@
 // Every command at every chance to process events: in each pause and wait of a hand, from the first
 // card dealt to the score dialog.
+#include <algorithm>
+#include <cerrno>
 #include <gtest/gtest.h>
 
 #include "engine/RoundDriver.h"
@@ -175,6 +177,26 @@ TEST(Interruption, AnAbandonedBidLeavesNoPanelBehind) {
   };
   EXPECT_EQ(RunGame(), 0);
   EXPECT_TRUE(abandoned);
+}
+
+TEST(Interruption, AnErrorWhileNothingIsUnderWayIsReportedAndTheGameGoesOn) {
+  HeadlessGame game(25);
+  PlainPlayer player(1);
+  Events.MenuClick[static_cast<int>(MenuItem::MnuView)] = [] { throw GameError(EIO, "Broken"); };
+  int errors = 0;
+  game.platform.script = [&](std::uint32_t atMostMs) {
+    if (errors < 2) {
+      ++errors;
+      ChooseMenu(MenuItem::MnuView);
+    }
+    player.OnEvents(atMostMs);
+  };
+  EXPECT_EQ(RunGame(), 0);
+  EXPECT_EQ(player.HandsScored(), 1);
+  EXPECT_EQ(std::ranges::count(game.platform.record,
+                               "critical box: Parlino: Unexpected error in procedure: RunGame\n"
+                               "Error #5: Broken"),
+            2);
 }
 
 TEST(Interruption, ADialogKeepsTheTableFromTakingInput) {
