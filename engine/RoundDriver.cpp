@@ -79,8 +79,7 @@ void CollectBids() {
   PauseMs = DefaultPauseMs;
 }
 
-// One hand from start to end; whether another one is wanted.
-bool DealAndPlayHand() {
+void DealAndPlayHand() {
   ReplaceGreetingsByNames();
   MakeTableReady();
   TrumpSuit = -1;
@@ -90,7 +89,7 @@ bool DealAndPlayHand() {
   SetCaption(Table.LblInfo, {NameOf(Dealer), " is dealing. "});
   DealCards();
   CollectBids();
-  return LeadNextTrick(Leader);
+  LeadNextTrick(Leader);
 }
 
 // A hand that stopped in the middle must not leave the human's turn or the bidding open behind it.
@@ -112,7 +111,10 @@ void DealNewRound() {
   bool handWanted = true;
   while (handWanted) {
     try {
-      handWanted = ReportErrors("DealNewRound", DealAndPlayHand);
+      handWanted = ReportErrors("DealNewRound", [] {
+        DealAndPlayHand();
+        return true;  // every other answer has ended the program
+      });
       if (!handWanted && TrickNumber == TricksInHand) TellHandIsOver();
     } catch (const HandAbandoned&) {
       handWanted = true;

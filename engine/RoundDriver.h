@@ -8,11 +8,10 @@ namespace Parlino {
 // "New Game": deals a hand.
 void MnuNew_Click();
 
-// Clears the table, deals, collects the bids and plays the hand, and goes on with the next hand for
-// as long as one is wanted; returns when no hand is. While a hand is under way a further call
-// abandons that hand at once and leaves by HandAbandoned, so that the hand's own driver deals
-// afresh and calls never nest. Totals and statistics are left alone. Reports its own errors; may
-// leave by ProgramEnded.
+// Clears the table, deals, collects the bids and plays the hand, and goes on with the next one
+// until it leaves by ProgramEnded; returns only after an error that it has reported. While a hand
+// is under way a further call abandons that hand at once and leaves by HandAbandoned, so that the
+// hand's own driver deals afresh and calls never nest. Totals and statistics are left alone.
 void DealNewRound();
 
 // Chooses the dealer: the next seat while a game is in progress, any seat otherwise. Sets Dealer

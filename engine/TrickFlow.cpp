@@ -135,7 +135,7 @@ Integer HandScore(int tricks, int bid) {
   return ToInteger(tricks >= bid ? 10 * bid + (tricks - bid) : -10 * bid);
 }
 
-bool LeadNextTrick(Integer leader) {
+void LeadNextTrick(Integer leader) {
   PlayTrick(leader);
   while (TrickNumber < TricksInHand) PlayTrick(Leader);
   ScoreHand();
@@ -143,7 +143,6 @@ bool LeadNextTrick(Integer leader) {
     EndGame();
   else
     OfferNextHand();
-  return true;  // every other answer has ended the program
 }
 
 void PlayTrick(Integer leader) {

@@ -5,9 +5,9 @@
 
 namespace Parlino {
 
-// Plays the tricks of a hand, the first led by `leader`, and settles the hand. Returns whether the
-// player wants another hand. May leave by HandAbandoned or ProgramEnded; errors pass to the caller.
-bool LeadNextTrick(Integer leader);
+// Plays the tricks of a hand, the first led by `leader`, and settles the hand. Returns when the
+// player wants another hand; may leave by HandAbandoned or ProgramEnded. Errors pass to the caller.
+void LeadNextTrick(Integer leader);
 
 // Plays one trick led by `leader`: the four turns, the winner, the counters, the trick pile. Leader
 // becomes the winner.
@@ -24,7 +24,7 @@ Integer HandScore(int tricks, int bid);
 inline Integer OurHandScore;
 inline Integer TheirHandScore;
 
-// Tells the player that the hand is over, when it led neither to a further hand nor to the end.
+// Tells the player that the hand is over, where an error kept it from leading to a further one.
 void TellHandIsOver();
 
 }  // namespace Parlino

@@ -13,7 +13,7 @@ inline constexpr std::string_view HelpFile = "ParlinoHelp.rtf";
 
 struct HelpWindowView {
   bool Visible = false;
-  std::string FileName;        // the full path of the document
+  std::string FileName;        // the full path of the document, as text boxes keep it
   RichText::Document rtbHelp;  // what the text box shows
   int Showings = 0;            // with each the text is new and the window comes to the front
 };
