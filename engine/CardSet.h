@@ -62,10 +62,11 @@ class CardSet {
     return static_cast<Integer>(IsEmpty() ? 0 : 63 - std::countl_zero(bits_));
   }
 
-  // The cards from `first` to `last`, both included, that are in the set.
+  // The cards from `first` to `last`, both included, that are in the set. Of an empty set the two
+  // may be anything, as they are for a suit that is none.
   [[nodiscard]] CardSet Between(int first, int last) const {
     CardSet part;
-    if (first <= last)
+    if (!IsEmpty() && first <= last)
       part.bits_ = bits_ & (~std::uint64_t{0} << first) & (~std::uint64_t{0} >> (63 - last));
     return part;
   }

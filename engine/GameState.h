@@ -11,7 +11,7 @@
 
 namespace Parlino {
 
-// Flags are integers because two of them are kept in files and shown as they are.
+// A flag is one of the game's integers; True is -1.
 using Flag = std::int16_t;
 inline constexpr Flag True = -1;
 inline constexpr Flag False = 0;
@@ -106,6 +106,10 @@ inline constexpr Integer SeatAfter(int seat, int places = 1) {
   return static_cast<Integer>((seat + places) % SeatsAtTable);
 }
 
+inline constexpr bool IsSuit(int suit) {
+  return suit >= Diamonds && suit <= Spades;
+}
+
 inline constexpr Integer FirstCardOf(int suit) {
   return static_cast<Integer>(CardsInSuit * (suit - Diamonds) + 1);
 }
@@ -114,8 +118,16 @@ inline constexpr Integer CardNumber(int value, int suit) {
   return static_cast<Integer>(FirstCardOf(suit) + value - 2);
 }
 
-// The cards of one suit in the hand of the seat: a fresh look through the pack.
+// Whether the seat, or nobody for NoSeat, holds the card of this value and suit. No card has a
+// value outside 2..14 or a suit outside 4..7.
+inline bool HoldsCard(Integer seat, int value, int suit) {
+  return IsSuit(suit) && value >= 2 && value <= Ace && Pack[CardNumber(value, suit)].Owner == seat;
+}
+
+// The cards of one suit in the hand of the seat: a fresh look through the pack. None for what is no
+// suit, such as the trumps before they are fixed.
 inline CardSet HandOf(Integer seat, Integer suit) {
+  if (!IsSuit(suit)) return {};
   return CardSet::OfSuit(FirstCardOf(suit), [seat](int card) { return Pack[card].Owner == seat; });
 }
 

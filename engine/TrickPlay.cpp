@@ -8,6 +8,10 @@ namespace {
 
 constexpr Integer NoteMs = 500;
 
+bool HoldsLedSuit(Integer seat) {
+  return !HandOf(seat, LedSuit).IsEmpty();
+}
+
 // Set while the follow-suit note is up: further wrong clicks add nothing to it, and so cannot pile
 // up note inside note.
 bool followSuitNoteIsUp = false;
@@ -48,7 +52,7 @@ void RecordInTrick(int position, Integer card) {
 
 bool MayPlayCard(Integer seat, Integer card, int position) {
   if (Pack[card].Owner != seat) return false;
-  return position == 1 || !HasStartSuitQuery(seat) || Pack[card].Suit == LedSuit;
+  return position == 1 || Pack[card].Suit == LedSuit || !HoldsLedSuit(seat);
 }
 
 CardSet CardsHumanMayPlay() {
@@ -69,7 +73,10 @@ void TakeHumansTurn() {
 void Cds_Click(Integer card) {
   ReportErrors("Cds_Click", [card] {
     if (Pack[card].Owner != Player || PlayerTurn == False || GameInProgress == False) return;
-    if (MayPlayCard(Player, card, HumansPosition()))
+    const int position = HumansPosition();
+    // Asked for what it leaves behind: whoever cannot follow suit gets the ordinary pause.
+    if (position > 1) HasStartSuitQuery(Player);
+    if (MayPlayCard(Player, card, position))
       PlayHumansCard(card);
     else
       ShowFollowSuitNote();
@@ -99,15 +106,14 @@ void PlayCard(Integer seat, Integer card) {
 
 bool HasStartSuitQuery(Integer seat) {
   return ReportErrors("HasStartSuitQuery", [seat] {
-    if (!HandOf(seat, LedSuit).IsEmpty()) return true;
+    if (HoldsLedSuit(seat)) return true;
     PauseMs = DefaultPauseMs;
     return false;
   });
 }
 
 bool CardGoneQuery(Integer value, Integer suit) {
-  return ReportErrors("CardGoneQuery",
-                      [value, suit] { return Pack[CardNumber(value, suit)].Owner == NoSeat; });
+  return ReportErrors("CardGoneQuery", [value, suit] { return HoldsCard(NoSeat, value, suit); });
 }
 
 }  // namespace Parlino

@@ -13,10 +13,10 @@ void TakeHumansTurn();
 int HumansPosition();
 
 // Whether the seat holds `card` and may play it to the trick: any card at the head of a trick or
-// without a card of the led suit, otherwise a card of the led suit.
+// without a card of the led suit, otherwise a card of the led suit. Changes nothing.
 bool MayPlayCard(Integer seat, Integer card, int position);
 
-// The cards that the human may play now: none out of turn.
+// The cards that the human may play now: none out of turn. Changes nothing.
 CardSet CardsHumanMayPlay();
 
 // A click on card picture `card` 1..52: plays it when it is the human's turn and the card may be
@@ -33,10 +33,11 @@ void Cds_MouseMove(Integer card);
 void PlayCard(Integer seat, Integer card);
 
 // Whether the seat holds a card of the led suit. When it does not, PauseMs is put back to
-// DefaultPauseMs. Reports its own errors.
+// DefaultPauseMs. Without a led suit nobody does. Reports its own errors.
 bool HasStartSuitQuery(Integer seat);
 
-// Whether the card of this value and suit has been played. Reports its own errors.
+// Whether the card of this value and suit has been played; false for what is no card. Reports its
+// own errors.
 bool CardGoneQuery(Integer value, Integer suit);
 
 // Records the card and its suit at `position` 1..4 of the trick.

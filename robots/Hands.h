@@ -11,8 +11,4 @@ inline Integer LowestCardAbove(Integer suit, Integer value, Integer seat) {
   return HandOf(seat, suit).Between(CardNumber(value, suit) + 1, CardNumber(Ace, suit)).Lowest();
 }
 
-inline bool HoldsCard(Integer seat, Integer value, Integer suit) {
-  return Pack[CardNumber(value, suit)].Owner == seat;
-}
-
 }  // namespace Parlino

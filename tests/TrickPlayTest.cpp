@@ -4,6 +4,8 @@
 #include "engine/RoundDriver.h"
 #include "engine/TrickFlow.h"
 #include "engine/TrickPlay.h"
+#include "robots/Bidding.h"
+#include "robots/Lead.h"
 #include "table/CardDisplay.h"
 #include "table/TableEvents.h"
 #include "tests/support/HeadlessGame.h"
@@ -140,6 +142,36 @@ TEST_F(TrickPlay, KnowsWhichCardsAreGone) {
   LedSuit = Diamonds;
   EXPECT_FALSE(HasStartSuitQuery(Player));
   EXPECT_EQ(PauseMs, DefaultPauseMs);
+}
+
+TEST_F(TrickPlay, NobodyHoldsAndNobodyHasPlayedWhatIsNoCard) {
+  struct {
+    int value;
+    int suit;
+  } const noCards[] = {{15, Diamonds}, {1, Clubs}, {0, Spades}, {Ace, 9}, {Ace, 0}, {Ace, -1}};
+  for (const auto& [value, suit] : noCards)
+    EXPECT_FALSE(CardGoneQuery(ToInteger(value), ToInteger(suit))) << value << " of " << suit;
+  for (const int led : {0, -1, 9}) {
+    PauseMs = 25;
+    LedSuit = ToInteger(led);
+    EXPECT_FALSE(HasStartSuitQuery(Player)) << led;
+    EXPECT_EQ(PauseMs, DefaultPauseMs) << led;
+  }
+  TrumpSuit = -1;
+  EXPECT_EQ(GetBid(Player), 2) << "an Ace and a singleton";
+  GiveHand(West, "2D");
+  EXPECT_EQ(ChooseFirstCard(West), CardOf("2D"));
+  EXPECT_FALSE(Recorded(game_.platform, "Unexpected error"));
+}
+
+TEST_F(TrickPlay, AskingWhatMayBePlayedChangesNothing) {
+  Pack[CardOf("4C")].Owner = West;
+  Pack[CardOf("TC")].Owner = West;
+  PauseMs = 500;
+  EXPECT_EQ(CardsHumanMayPlay().Count(), 2);
+  EXPECT_EQ(PauseMs, 500);
+  ClickCard(CardOf("AS"));
+  EXPECT_EQ(game_.platform.ticks, 150U) << "only the click brings back the ordinary pause";
 }
 
 struct WinnerCase {
