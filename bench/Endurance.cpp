@@ -10,7 +10,7 @@
 #include "bench/ProcessFigures.h"
 #include "engine/Generator.h"
 #include "game/Game.h"
-#include "platform/Headless.h"
+#include "headless/Headless.h"
 #include "table/MessageDialog.h"
 #include "table/TableEvents.h"
 #include "tools/CommandLine.h"

@@ -5,7 +5,7 @@
 #include "engine/Generator.h"
 #include "engine/TrickPlay.h"
 #include "game/Game.h"
-#include "platform/Headless.h"
+#include "headless/Headless.h"
 #include "robots/Bidding.h"
 #include "robots/FourthHand.h"
 #include "robots/Lead.h"
@@ -69,7 +69,7 @@ void ChooseCard(benchmark::State& state) {
     DealCards();
     for (int position = 1; position < Position; ++position) {
       const Integer seat = SeatAfter(West, position - 1);
-      RecordInTrick(position, LowestCardSuit(MostSuitCards(seat), seat));
+      RecordInTrick(position, seat, LowestCardSuit(MostSuitCards(seat), seat));
     }
     state.ResumeTiming();
     for (int decision = 0; decision < 100; ++decision)

@@ -10,7 +10,7 @@
 #include <QEvent>
 
 #include "bench/ProcessFigures.h"
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 #include "game/Game.h"
 #include "table/CardDisplay.h"
 #include "table/MessageDialog.h"

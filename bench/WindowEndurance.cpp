@@ -17,9 +17,10 @@
 #include <QTemporaryDir>
 
 #include "bench/ProcessFigures.h"
-#include "engine/GameState.h"
 #include "engine/Generator.h"
 #include "engine/RoundDriver.h"
+#include "engine/state/GameState.h"
+#include "engine/state/Questions.h"
 #include "persistence/DataFiles.h"
 #include "table/MessageDialog.h"
 #include "tests/window/WindowGame.h"

@@ -3,8 +3,8 @@
 #include <cmath>
 
 #include "engine/Generator.h"
+#include "engine/state/ErrorReport.h"
 #include "table/CardDisplay.h"
-#include "table/ErrorReport.h"
 
 namespace Parlino {
 namespace {

@@ -2,7 +2,7 @@
 // from the dealer.
 #pragma once
 
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 
 namespace Parlino {
 

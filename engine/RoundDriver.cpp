@@ -3,34 +3,24 @@
 #include "engine/Deal.h"
 #include "engine/Generator.h"
 #include "engine/TrickFlow.h"
+#include "engine/state/ErrorReport.h"
+#include "engine/state/Questions.h"
 #include "robots/Bidding.h"
 #include "table/CardDisplay.h"
-#include "table/ErrorReport.h"
+#include "table/SeatControls.h"
 
 namespace Parlino {
 namespace {
 
 constexpr Integer BidPauseMs = 2500;
 
-bool handUnderWay = false;
-
 class HandMark {
  public:
-  HandMark() { handUnderWay = true; }
+  HandMark() { HandInProgress = true; }
   HandMark(const HandMark&) = delete;
   HandMark& operator=(const HandMark&) = delete;
-  ~HandMark() { handUnderWay = false; }
+  ~HandMark() { HandInProgress = false; }
 };
-
-Label& BidLabelOf(Integer seat) {
-  Label* const labels[SeatsAtTable] = {&Table.LblPBid, &Table.LblWBid, &Table.LblNBid,
-                                       &Table.LblEBid};
-  return *labels[seat];
-}
-
-const std::string& NameOf(Integer seat) {
-  return seat == Player ? PlayerName : SeatNames[seat];
-}
 
 void ReplaceGreetingsByNames() {
   for (Integer seat = Player; seat <= East; ++seat) SetCaption(Table.LblName[seat], {NameOf(seat)});
@@ -63,7 +53,7 @@ void CollectBid(Integer seat) {
   else
     MakeRobotBid(seat);
   SetCaption(Table.LblName[seat], {NameOf(seat), " bids ", Bids[seat]});
-  SetCaption(BidLabelOf(seat), {Bids[seat]});
+  SetCaption(*ControlsOf(seat).bid, {Bids[seat]});
   StartSound(RingSound);
   WaitMs();
 }
@@ -106,7 +96,7 @@ void MnuNew_Click() {
 }
 
 void DealNewRound() {
-  if (handUnderWay) throw HandAbandoned{};
+  if (HandIsUnderWay()) throw HandAbandoned{};
   const HandMark mark;
   bool handWanted = true;
   while (handWanted) {
@@ -136,17 +126,9 @@ void GetDealer() {
 }
 
 void ClearTable() {
-  for (Label* counter :
-       {&Table.LblPNMade, &Table.LblPNBid, &Table.LblWEMade, &Table.LblWEBid, &Table.LblWBid,
-        &Table.LblNBid, &Table.LblEBid, &Table.LblPBid, &Table.LblNTricks, &Table.LblWTricks,
-        &Table.LblETricks, &Table.LblPTricks})
-    SetCaption(*counter, {0});
-  for (int place = 1; place <= TricksInHand; ++place) {
-    Hide(Table.ImgBackNorth[place]);
-    Hide(Table.ImgBackWest[place]);
-    Hide(Table.ImgBackEast[place]);
-    Hide(Table.ImgBackP[place]);
-  }
+  for (Label* counter : Counters) SetCaption(*counter, {0});
+  for (Integer seat = Player; seat <= East; ++seat)
+    for (Control& back : *ControlsOf(seat).pile) Hide(back);
   SetCaption(Table.LblInfo, {});
   ClearLines(Table.LstCardsPlayed);
   TrickNumber = 0;
@@ -164,10 +146,6 @@ void ClearTable() {
 void LblBids_Click(Integer tricks) {
   Bids[Player] = tricks;
   Hide(Table.FramBids);
-}
-
-bool HandIsUnderWay() {
-  return handUnderWay;
 }
 
 }  // namespace Parlino

@@ -1,7 +1,7 @@
 // The round driver: one hand after the other, from the clearing of the table to the last trick.
 #pragma once
 
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 
 namespace Parlino {
 
@@ -23,8 +23,5 @@ void ClearTable();
 
 // The human bids `tricks`, 1..13. A bid cannot be changed.
 void LblBids_Click(Integer tricks);
-
-// Whether a hand is being dealt, bid or played.
-bool HandIsUnderWay();
 
 }  // namespace Parlino

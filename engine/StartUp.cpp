@@ -1,8 +1,8 @@
 #include "engine/StartUp.h"
 
-#include "engine/GameState.h"
+#include "engine/state/ErrorReport.h"
+#include "engine/state/GameState.h"
 #include "persistence/DataFiles.h"
-#include "table/ErrorReport.h"
 #include "table/TableView.h"
 
 namespace Parlino {

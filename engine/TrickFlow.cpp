@@ -1,52 +1,24 @@
 #include "engine/TrickFlow.h"
 
 #include "engine/TrickPlay.h"
+#include "engine/state/ErrorReport.h"
+#include "engine/state/Questions.h"
 #include "persistence/DataFiles.h"
 #include "platform/Platform.h"
-#include "robots/FourthHand.h"
-#include "robots/Lead.h"
-#include "robots/SecondAndThirdHand.h"
 #include "table/CardDisplay.h"
-#include "table/ErrorReport.h"
 #include "table/MessageDialog.h"
+#include "table/SeatControls.h"
 
 namespace Parlino {
 namespace {
 
 constexpr std::string_view TrickSeparator = "=======================================";
 
-void TakeRobotsTurn(int position, Integer seat) {
-  switch (position) {
-    case 1:
-      return PlayFirstCard(seat);
-    case 2:
-      return PlaySecondCard(seat);
-    case 3:
-      return PlayThirdCard(seat);
-    default:
-      return PlayFourthCard(seat);
-  }
-}
-
-Label& TrickLabelOf(Integer seat) {
-  Label* const labels[SeatsAtTable] = {&Table.LblPTricks, &Table.LblWTricks, &Table.LblNTricks,
-                                       &Table.LblETricks};
-  return *labels[seat];
-}
-
-int OurTricks() {
-  return TricksWon[Player] + TricksWon[North];
-}
-int TheirTricks() {
-  return TricksWon[West] + TricksWon[East];
-}
-
 void CountTrick() {
   const Integer winner = TrickWinner;
   TricksWon[winner] = ToInteger(TricksWon[winner] + 1);
-  SetCaption(TrickLabelOf(winner), {TricksWon[winner]});
-  SetCaption(Table.LblInfo, {winner == Player ? PlayerName : SeatNames[winner],
-                             " won this trick and will now lead a card"});
+  SetCaption(*ControlsOf(winner).tricks, {TricksWon[winner]});
+  SetCaption(Table.LblInfo, {NameOf(winner), " won this trick and will now lead a card"});
   Leader = winner;
   SetCaption(Table.LblPNMade, {OurTricks()});
   SetCaption(Table.LblWEMade, {TheirTricks()});
@@ -66,11 +38,6 @@ void ScoreHand() {
   SetCaption(Table.StatusBar1[2], {"Your team points:- ", OurPoints});
   AddTo(TheirPoints, TheirHandScore);
   SetCaption(Table.StatusBar1[3], {"Their team points:- ", TheirPoints});
-}
-
-// Equal totals never end a game, however high they are.
-bool GameIsOver() {
-  return (OurPoints >= TargetPoints || TheirPoints >= TargetPoints) && OurPoints != TheirPoints;
 }
 
 void ShowScores() {
@@ -131,10 +98,6 @@ void EndGame() {
 
 }  // namespace
 
-Integer HandScore(int tricks, int bid) {
-  return ToInteger(tricks >= bid ? 10 * bid + (tricks - bid) : -10 * bid);
-}
-
 void LeadNextTrick(Integer leader) {
   PlayTrick(leader);
   while (TrickNumber < TricksInHand) PlayTrick(Leader);
@@ -154,7 +117,6 @@ void PlayTrick(Integer leader) {
       TakeHumansTurn();
     else
       TakeRobotsTurn(position, seat);
-    TrickSeats[position] = seat;
   }
   AddLine(Table.LstCardsPlayed, {TrickSeparator});
   GetTrickWinner();
@@ -163,14 +125,7 @@ void PlayTrick(Integer leader) {
 }
 
 void GetTrickWinner() {
-  int winning = 1;
-  for (int position = 2; position <= SeatsAtTable; ++position) {
-    const Card& card = Pack[TrickCards[position]];
-    const Card& best = Pack[TrickCards[winning]];
-    if (card.Suit == best.Suit ? card.Value > best.Value : card.Suit == TrumpSuit)
-      winning = position;
-  }
-  TrickWinner = TrickSeats[winning];
+  TrickWinner = WinnerOfTrick();
 }
 
 void TellHandIsOver() {

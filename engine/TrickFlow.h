@@ -1,7 +1,7 @@
 // The flow of a hand: trick after trick, who won each, the score of the hand and the end of a game.
 #pragma once
 
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 
 namespace Parlino {
 
@@ -15,14 +15,6 @@ void PlayTrick(Integer leader);
 
 // Sets TrickWinner: the highest trump in the trick, or else the highest card of the led suit.
 void GetTrickWinner();
-
-// The points a team makes in a hand: 10 for every trick bid and 1 for every trick over, or 10 lost
-// for every trick bid.
-Integer HandScore(int tricks, int bid);
-
-// The points that each team made in the hand last scored.
-inline Integer OurHandScore;
-inline Integer TheirHandScore;
 
 // Tells the player that the hand is over, where an error kept it from leading to a further one.
 void TellHandIsOver();

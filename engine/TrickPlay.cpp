@@ -1,16 +1,15 @@
 #include "engine/TrickPlay.h"
 
+#include "engine/state/ErrorReport.h"
+#include "engine/state/Questions.h"
+#include "engine/state/TrickQueries.h"
+#include "robots/Choices.h"
 #include "table/CardDisplay.h"
-#include "table/ErrorReport.h"
 
 namespace Parlino {
 namespace {
 
 constexpr Integer NoteMs = 500;
-
-bool HoldsLedSuit(Integer seat) {
-  return !HandOf(seat, LedSuit).IsEmpty();
-}
 
 // Set while the follow-suit note is up: further wrong clicks add nothing to it, and so cannot pile
 // up note inside note.
@@ -25,41 +24,26 @@ void ShowFollowSuitNote() {
   ShowInfoNote({PlayerName, " sorry, you must follow suit. Please try again"}, NoteMs);
 }
 
-void PutCardOnTable(Integer seat, Integer card, const std::string& name) {
+void PutCardOnTable(Integer seat, Integer card) {
   MoveToMiddle(card, seat);
   PlayCardSound();
   Pack[card].Owner = NoSeat;
-  AddLine(Table.LstCardsPlayed, {name, " played ", Pack[card].FullName});
+  AddLine(Table.LstCardsPlayed, {NameOf(seat), " played ", Pack[card].FullName});
 }
 
 void PlayHumansCard(Integer card) {
   PlayerTurn = False;  // the pause below still lets clicks in: this card is the one of the turn
-  RecordInTrick(HumansPosition(), card);
-  PutCardOnTable(Player, card, PlayerName);
+  RecordInTrick(HumansPosition(), Player, card);
+  PutCardOnTable(Player, card);
   PlayerHasPlayed = True;
 }
 
 }  // namespace
 
-int HumansPosition() {
-  return (SeatsAtTable - Leader) % SeatsAtTable + 1;
-}
-
-void RecordInTrick(int position, Integer card) {
+void RecordInTrick(int position, Integer seat, Integer card) {
   TrickCards[position] = card;
   TrickSuits[position] = Pack[card].Suit;
-}
-
-bool MayPlayCard(Integer seat, Integer card, int position) {
-  if (Pack[card].Owner != seat) return false;
-  return position == 1 || Pack[card].Suit == LedSuit || !HoldsLedSuit(seat);
-}
-
-CardSet CardsHumanMayPlay() {
-  if (PlayerTurn == False) return {};
-  return CardSet::OfPack([position = HumansPosition()](int card) {
-    return MayPlayCard(Player, static_cast<Integer>(card), position);
-  });
+  TrickSeats[position] = seat;
 }
 
 void TakeHumansTurn() {
@@ -99,21 +83,31 @@ void PlayCard(Integer seat, Integer card) {
   ReportErrors("PlayCard", [seat, card] {
     SetPicture(Table.Cds[card], card);
     ShowInfoNote({"Card being played is  ", Pack[card].FullName}, NoteMs);
-    PutCardOnTable(seat, card, SeatNames[seat]);
+    PutCardOnTable(seat, card);
     PauseMs = DefaultPauseMs;
   });
 }
 
-bool HasStartSuitQuery(Integer seat) {
-  return ReportErrors("HasStartSuitQuery", [seat] {
-    if (HoldsLedSuit(seat)) return true;
-    PauseMs = DefaultPauseMs;
-    return false;
+void TakeRobotsTurn(int position, Integer seat) {
+  const Choice& choice = ChoiceAt(position);
+  ReportErrors(choice.procedure, [position, seat, &choice] {
+    const Integer card = choice.card(seat);
+    RecordInTrick(position, seat, card);
+    PlayCard(seat, card);
   });
 }
 
-bool CardGoneQuery(Integer value, Integer suit) {
-  return ReportErrors("CardGoneQuery", [value, suit] { return HoldsCard(NoSeat, value, suit); });
+void PlayFirstCard(Integer seat) {
+  TakeRobotsTurn(1, seat);
+}
+void PlaySecondCard(Integer seat) {
+  TakeRobotsTurn(2, seat);
+}
+void PlayThirdCard(Integer seat) {
+  TakeRobotsTurn(3, seat);
+}
+void PlayFourthCard(Integer seat) {
+  TakeRobotsTurn(4, seat);
 }
 
 }  // namespace Parlino

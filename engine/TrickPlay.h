@@ -1,23 +1,13 @@
-// The plays that make up a trick: the human's turn with its clicks and hints, the way every robot
-// card goes, and the questions about the cards that both ask.
+// The plays that make up a trick: the human's turn with its clicks and hints, and the robots'
+// turns.
 #pragma once
 
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 
 namespace Parlino {
 
 // Waits until the human has played a card. May leave by HandAbandoned or ProgramEnded.
 void TakeHumansTurn();
-
-// The position 1..4 at which the human plays to the trick that Leader leads.
-int HumansPosition();
-
-// Whether the seat holds `card` and may play it to the trick: any card at the head of a trick or
-// without a card of the led suit, otherwise a card of the led suit. Changes nothing.
-bool MayPlayCard(Integer seat, Integer card, int position);
-
-// The cards that the human may play now: none out of turn. Changes nothing.
-CardSet CardsHumanMayPlay();
 
 // A click on card picture `card` 1..52: plays it when it is the human's turn and the card may be
 // played; says so for half a second when suit was not followed; otherwise ignored. Exactly one card
@@ -28,19 +18,22 @@ void Cds_Click(Integer card);
 // hint that say whether it may be played now.
 void Cds_MouseMove(Integer card);
 
-// Shows a robot's card, moves it to the middle and lists it. The caller has recorded it in the
+// Plays the robot's card at `position` 1..4 of the trick: chooses it, records it and puts it on the
+// table. Takes about one second. Reports its own errors, under the name of the position's
+// procedure. May leave by HandAbandoned or ProgramEnded.
+void TakeRobotsTurn(int position, Integer seat);
+
+// The same by the name of the position.
+void PlayFirstCard(Integer seat);
+void PlaySecondCard(Integer seat);
+void PlayThirdCard(Integer seat);
+void PlayFourthCard(Integer seat);
+
+// Shows a robot's card, moves it to the middle and lists it. The card is already recorded in the
 // trick. Takes about one second; leaves PauseMs at DefaultPauseMs. Reports its own errors.
 void PlayCard(Integer seat, Integer card);
 
-// Whether the seat holds a card of the led suit. When it does not, PauseMs is put back to
-// DefaultPauseMs. Without a led suit nobody does. Reports its own errors.
-bool HasStartSuitQuery(Integer seat);
-
-// Whether the card of this value and suit has been played; false for what is no card. Reports its
-// own errors.
-bool CardGoneQuery(Integer value, Integer suit);
-
-// Records the card and its suit at `position` 1..4 of the trick.
-void RecordInTrick(int position, Integer card);
+// Records who plays what at `position` 1..4 of the trick.
+void RecordInTrick(int position, Integer seat, Integer card);
 
 }  // namespace Parlino

@@ -1,13 +1,14 @@
 #include "game/Game.h"
 
-#include "engine/GameState.h"
 #include "engine/RoundDriver.h"
 #include "engine/StartUp.h"
 #include "engine/TrickPlay.h"
-#include "persistence/PlayerCommands.h"
+#include "engine/state/ErrorReport.h"
+#include "engine/state/GameState.h"
+#include "persistence/commands/PlayerCommands.h"
 #include "platform/Platform.h"
 #include "table/CardDisplay.h"
-#include "table/ErrorReport.h"
+#include "table/ErrorBox.h"
 #include "table/HelpAndAbout.h"
 #include "table/MessageDialog.h"
 #include "table/TableEvents.h"
@@ -43,6 +44,7 @@ void BindEvents() {
 
 void SetUpGame(Platform& platform) {
   UsePlatform(platform);
+  ShowErrorReport = ShowErrorBox;
   ResetGameState();
   OpenTable();
   MFormDeluxe = {};

@@ -1,10 +1,10 @@
 #include "persistence/DataFiles.h"
 
-#include "engine/GameState.h"
+#include "engine/state/ErrorReport.h"
+#include "engine/state/GameState.h"
+#include "engine/state/Text.h"
 #include "persistence/Records.h"
 #include "platform/Platform.h"
-#include "table/ErrorReport.h"
-#include "table/TableView.h"
 
 namespace Parlino {
 namespace {

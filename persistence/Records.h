@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 
 namespace Parlino {
 

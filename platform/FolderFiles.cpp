@@ -9,7 +9,7 @@
 #include <unistd.h>
 #include <utility>
 
-#include "engine/Errors.h"
+#include "engine/state/Errors.h"
 
 namespace Parlino {
 namespace {

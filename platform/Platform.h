@@ -10,6 +10,9 @@
 
 namespace Parlino {
 
+// The title of the table window and of every plain box.
+inline constexpr std::string_view ApplicationTitle = "Parlino";
+
 // A length of time for ProcessEvents that ends only with an event.
 inline constexpr std::uint32_t Forever = 0xFFFFFFFF;
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "table/ErrorReport.h"
+#include "engine/state/ErrorReport.h"
 
 namespace Parlino {
 namespace {

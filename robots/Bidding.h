@@ -1,7 +1,7 @@
 // How a robot bids: a count over its thirteen cards.
 #pragma once
 
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 
 namespace Parlino {
 

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "engine/TrickPlay.h"
+#include "engine/state/ErrorReport.h"
+#include "engine/state/TrickQueries.h"
 #include "robots/Hands.h"
 #include "robots/Lead.h"
-#include "table/ErrorReport.h"
 
 namespace Parlino {
 namespace {
@@ -71,14 +71,6 @@ bool PartnerWinningFourth() {
 
 Integer ChooseFourthCard(Integer seat) {
   return HasStartSuitQuery(seat) ? FollowSuitFourth(seat) : DiscardOrRuffFourth(seat);
-}
-
-void PlayFourthCard(Integer seat) {
-  ReportErrors("PlayFourthCard", [seat] {
-    const Integer card = ChooseFourthCard(seat);
-    RecordInTrick(4, card);
-    PlayCard(seat, card);
-  });
 }
 
 }  // namespace Parlino

@@ -1,17 +1,13 @@
 // How a robot plays last to a trick.
 #pragma once
 
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 
 namespace Parlino {
 
 // The card that the seat plays last, by its own hand, the three cards before it and TrumpSuit.
 // Changes nothing but the suit totals and, without a card of the led suit, PauseMs.
 Integer ChooseFourthCard(Integer seat);
-
-// Plays it: records it at the last position of the trick and puts it on the table. Reports its own
-// errors.
-void PlayFourthCard(Integer seat);
 
 // Whether the second card, the fourth hand's partner's, is judged to be winning. It is a judgement,
 // not a calculation: see the tests in the body. Reports its own errors.

@@ -1,7 +1,7 @@
 // What robots ask about a hand.
 #pragma once
 
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 
 namespace Parlino {
 

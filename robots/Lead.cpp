@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "engine/TrickPlay.h"
+#include "engine/state/ErrorReport.h"
+#include "engine/state/TrickQueries.h"
 #include "robots/Bidding.h"
 #include "robots/Hands.h"
-#include "table/ErrorReport.h"
 
 namespace Parlino {
 namespace {
@@ -38,14 +38,6 @@ Integer ChooseFirstCard(Integer seat) {
   for (const Integer value : {King, Queen, Jack})
     if (const Integer card = PromotedCard(value, seat)) return card;
   return ChooseDiscard(seat);  // low from the longest suit
-}
-
-void PlayFirstCard(Integer seat) {
-  ReportErrors("PlayFirstCard", [seat] {
-    const Integer card = ChooseFirstCard(seat);
-    RecordInTrick(1, card);
-    PlayCard(seat, card);
-  });
 }
 
 Integer LowestCardSuit(Integer suit, Integer seat) {

@@ -1,16 +1,13 @@
 // What a robot leads, and the two looks at a hand that following robots share.
 #pragma once
 
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 
 namespace Parlino {
 
 // The card that the seat leads, by its own hand and the cards already played. Changes only the four
 // suit totals.
 Integer ChooseFirstCard(Integer seat);
-
-// Leads it: records it at the trick's first position and plays it. Reports its own errors.
-void PlayFirstCard(Integer seat);
 
 // The seat's lowest card of the suit, or 0 when it holds none. Reports its own errors.
 Integer LowestCardSuit(Integer suit, Integer seat);

@@ -1,9 +1,9 @@
 #include "robots/SecondAndThirdHand.h"
 
-#include "engine/TrickPlay.h"
+#include "engine/state/ErrorReport.h"
+#include "engine/state/TrickQueries.h"
 #include "robots/Hands.h"
 #include "robots/Lead.h"
-#include "table/ErrorReport.h"
 
 namespace Parlino {
 namespace {
@@ -61,22 +61,6 @@ Integer ChooseSecondCard(Integer seat) {
 
 Integer ChooseThirdCard(Integer seat) {
   return HasStartSuitQuery(seat) ? FollowSuitThird(seat) : DiscardOrOverRuffThird(seat);
-}
-
-void PlaySecondCard(Integer seat) {
-  ReportErrors("PlaySecondCard", [seat] {
-    const Integer card = ChooseSecondCard(seat);
-    RecordInTrick(2, card);
-    PlayCard(seat, card);
-  });
-}
-
-void PlayThirdCard(Integer seat) {
-  ReportErrors("PlayThirdCard", [seat] {
-    const Integer card = ChooseThirdCard(seat);
-    RecordInTrick(3, card);
-    PlayCard(seat, card);
-  });
 }
 
 }  // namespace Parlino

@@ -1,7 +1,7 @@
 // How a robot plays second and third to a trick.
 #pragma once
 
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 
 namespace Parlino {
 
@@ -9,10 +9,6 @@ namespace Parlino {
 // They change nothing but the suit totals and, without a card of the led suit, PauseMs.
 Integer ChooseSecondCard(Integer seat);
 Integer ChooseThirdCard(Integer seat);
-
-// Play it: record it at its position of the trick and put it on the table. Report their own errors.
-void PlaySecondCard(Integer seat);
-void PlayThirdCard(Integer seat);
 
 // Whether `who` can beat the led card, other cards of the trick left aside. Reports its own errors.
 bool BeatStartCardQuery(Integer who);

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 
 namespace Parlino {
 namespace {

@@ -1,7 +1,8 @@
 #include "table/CardDisplay.h"
 
+#include "engine/state/ErrorReport.h"
 #include "platform/Platform.h"
-#include "table/ErrorReport.h"
+#include "table/SeatControls.h"
 
 namespace Parlino {
 namespace {
@@ -49,12 +50,6 @@ TablePoint PackPlace(int card) {
   return {5040.0 + 2 * (card - 1), 3720.0 - 2 * (card - 1)};
 }
 
-TrickPile& TrickPileOf(int seat) {
-  TrickPile* const piles[SeatsAtTable] = {&Table.ImgBackP, &Table.ImgBackWest, &Table.ImgBackNorth,
-                                          &Table.ImgBackEast};
-  return *piles[seat];
-}
-
 void LayOutHand(Integer seat) {
   const HandLayout& layout = HandLayouts[seat];
   TablePoint place = layout.first;
@@ -81,7 +76,7 @@ void SlideToWinner(Integer card, Integer winner) {
   WaitMs();
   MoveTo(picture, TrickPaths[winner].second);
   PlayCardSound();
-  Control& pileCard = TrickPileOf(winner)[TricksWon[winner]];
+  Control& pileCard = (*ControlsOf(winner).pile)[TricksWon[winner]];
   Show(pileCard);
   BringToFront(pileCard);
 }

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 #include "table/TableView.h"
 
 namespace Parlino {

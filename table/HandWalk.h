@@ -1,7 +1,7 @@
 // The way of the keys through the Player's hand: which of its cards is marked.
 #pragma once
 
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 
 namespace Parlino {
 

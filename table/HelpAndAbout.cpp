@@ -2,10 +2,10 @@
 
 #include <cerrno>
 
-#include "engine/Errors.h"
+#include "engine/state/ErrorReport.h"
+#include "engine/state/Errors.h"
 #include "platform/Platform.h"
 #include "richtext/Reader.h"
-#include "table/ErrorReport.h"
 #include "table/SystemInfo.h"
 #include "table/TableView.h"
 

@@ -1,6 +1,6 @@
 #include "table/MessageDialog.h"
 
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 #include "platform/Platform.h"
 #include "table/CardDisplay.h"
 #include "table/TableView.h"

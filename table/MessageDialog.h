@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "engine/Indexed.h"
+#include "engine/state/Indexed.h"
 
 namespace Parlino {
 

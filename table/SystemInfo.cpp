@@ -6,8 +6,8 @@
 #include <span>
 #include <string_view>
 
+#include "engine/state/ErrorReport.h"
 #include "platform/Platform.h"
-#include "table/ErrorReport.h"
 #include "table/TableView.h"
 
 namespace Parlino {

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "engine/Errors.h"
+#include "engine/state/Errors.h"
 
 namespace Parlino {
 

@@ -2,6 +2,7 @@
 
 #include "platform/Platform.h"
 #include "table/MessageDialog.h"
+#include "table/SeatControls.h"
 
 namespace Parlino {
 namespace {
@@ -12,11 +13,6 @@ constexpr std::string_view Introduction =
     "If this is your first time playing you may wish to look at the Help file, enter your name "
     "and change the robots names to those of your friends, or enemies.If not just press F2 , or go "
     "to the Play menu and New Game to deal the cards. Happy Playing.";
-
-void JoinInto(std::string& text, Pieces pieces) {
-  text.clear();
-  for (const TextPiece& piece : pieces) text.append(piece.Text());
-}
 
 void OpenBiddingPanel() {
   for (int number = 1; number <= 13; ++number) {
@@ -29,10 +25,7 @@ void OpenBiddingPanel() {
 
 void OpenScoreFrame() {
   Table.FramScores.Visible = true;
-  for (Label* counter :
-       {&Table.LblPBid, &Table.LblWBid, &Table.LblNBid, &Table.LblEBid, &Table.LblPNBid,
-        &Table.LblWEBid, &Table.LblPTricks, &Table.LblWTricks, &Table.LblNTricks, &Table.LblETricks,
-        &Table.LblPNMade, &Table.LblWEMade}) {
+  for (Label* counter : Counters) {
     counter->Visible = true;
     counter->Caption.assign(1, '0');
   }
@@ -75,12 +68,6 @@ void OpenTable() {
   OpenScoreFrame();
   OpenWelcomePanel();
   OpenStatusBar();
-}
-
-std::string JoinText(Pieces pieces) {
-  std::string text;
-  JoinInto(text, pieces);
-  return text;
 }
 
 void SetCaption(Label& label, Pieces pieces) {

@@ -3,14 +3,13 @@
 // without a window only has the model.
 #pragma once
 
-#include <charconv>
 #include <cstdint>
-#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "engine/Indexed.h"
+#include "engine/state/Indexed.h"
+#include "engine/state/Text.h"
 
 namespace Parlino {
 
@@ -71,29 +70,6 @@ class ListBox : public Control {
   std::string text_;
   std::vector<std::size_t> ends_;
 };
-
-// A piece of a caption: text, or a whole number in plain decimal digits.
-class TextPiece {
- public:
-  TextPiece(std::string_view text) : text_(text) {}
-  TextPiece(const std::string& text) : text_(text) {}
-  TextPiece(const char* text) : text_(text) {}
-  TextPiece(int number)
-      : length_(static_cast<std::size_t>(
-            std::to_chars(digits_, digits_ + sizeof digits_, number).ptr - digits_)) {}
-  [[nodiscard]] std::string_view Text() const {
-    return length_ > 0 ? std::string_view(digits_, length_) : text_;
-  }
-
- private:
-  std::string_view text_;
-  char digits_[12];
-  std::size_t length_ = 0;
-};
-using Pieces = std::initializer_list<TextPiece>;
-
-// The pieces joined into one text.
-std::string JoinText(Pieces pieces);
 
 using TrickPile = Indexed<Control, 1, 13>;
 

@@ -6,10 +6,10 @@
 #include <vector>
 
 #include "engine/Generator.h"
-#include "engine/TrickPlay.h"
+#include "engine/state/Questions.h"
 #include "game/Game.h"
-#include "robots/AnyHand.h"
 #include "robots/Bidding.h"
+#include "robots/Choices.h"
 #include "table/MessageDialog.h"
 #include "table/TableEvents.h"
 #include "table/TableView.h"
@@ -66,7 +66,7 @@ class Watcher {
     else if (Table.FramBids.Visible)
       ClickBid(Check("bid", Player, GetBid(Player), [] { return GetBid(Player); }));
     else if (PlayerTurn != False)
-      ClickCard(CheckCard(HumansPosition(), Player, ChooseCardAt(HumansPosition(), Player)));
+      ClickCard(CheckCard(HumansPosition(), Player, ChoiceAt(HumansPosition()).card(Player)));
     else
       ChooseMenu(MenuItem::MnuNew);
   }
@@ -88,7 +88,7 @@ class Watcher {
 
   Integer CheckCard(int position, Integer seat, Integer card) {
     return Check(JoinText({"position ", position}), seat, card,
-                 [position, seat] { return ChooseCardAt(position, seat); });
+                 [position, seat] { return ChoiceAt(position).card(seat); });
   }
 
   template <class Choose>

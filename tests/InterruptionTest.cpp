@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "engine/RoundDriver.h"
+#include "engine/state/Questions.h"
 #include "game/Game.h"
 #include "table/MessageDialog.h"
 #include "table/TableEvents.h"

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 #include "table/MessageDialog.h"
 #include "tests/support/HeadlessGame.h"
 

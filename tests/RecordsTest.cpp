@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 #include <set>
 
-#include "engine/Errors.h"
-#include "platform/HeadlessInFolder.h"
+#include "engine/state/Errors.h"
+#include "headless/HeadlessInFolder.h"
 #include "tests/support/HeadlessGame.h"
 #include "tests/support/RecordFaults.h"
 #include "tests/support/TemporaryFolder.h"

@@ -2,7 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "engine/TrickPlay.h"
-#include "robots/AnyHand.h"
+#include "headless/CardText.h"
+#include "robots/Choices.h"
 #include "table/TableView.h"
 #include "tests/support/HeadlessGame.h"
 
@@ -98,7 +99,7 @@ TEST(RobotPlay, PlaysTheGoldenPositions) {
   const HeadlessGame game;
   for (const Position& position : positions) {
     SetUpPosition(position, North, Player);
-    const Integer card = ChooseCardAt(CardsIn(position.trick) + 1, North);
+    const Integer card = ChoiceAt(CardsIn(position.trick) + 1).card(North);
     EXPECT_EQ(CardText(card), position.expected)
         << position.why << ": trumps " << position.trumps << ", trick " << position.trick
         << ", hand " << position.hand;
@@ -111,7 +112,7 @@ TEST(RobotPlay, DoesNotDependOnTheSeatOrOnWhoHoldsTheHiddenCards) {
     for (Integer seat = Player; seat <= East; ++seat) {
       for (int places = 1; places <= 3; ++places) {
         SetUpPosition(position, seat, SeatAfter(seat, places));
-        const Integer card = ChooseCardAt(CardsIn(position.trick) + 1, seat);
+        const Integer card = ChoiceAt(CardsIn(position.trick) + 1).card(seat);
         ASSERT_EQ(CardText(card), position.expected) << position.why << ", seat " << seat;
       }
     }

@@ -4,6 +4,8 @@
 #include "engine/RoundDriver.h"
 #include "engine/TrickFlow.h"
 #include "engine/TrickPlay.h"
+#include "engine/state/Questions.h"
+#include "engine/state/TrickQueries.h"
 #include "robots/Bidding.h"
 #include "robots/Lead.h"
 #include "table/CardDisplay.h"

@@ -1,7 +1,8 @@
 // Where the keys lead, in the hand and in the bidding panel.
 #include <gtest/gtest.h>
 
-#include "engine/TrickPlay.h"
+#include "engine/state/Questions.h"
+#include "headless/CardText.h"
 #include "support/HeadlessGame.h"
 #include "table/BidWalk.h"
 #include "table/CardDisplay.h"

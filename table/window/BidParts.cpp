@@ -1,5 +1,5 @@
 // The bidding panel.
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 #include "table/BidWalk.h"
 #include "table/TableEvents.h"
 #include "table/window/BidFace.h"

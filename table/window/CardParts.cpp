@@ -1,5 +1,5 @@
 // The table top and the pictures on it.
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 #include "table/TableEvents.h"
 #include "table/window/CaptionLabel.h"
 #include "table/window/Design.h"

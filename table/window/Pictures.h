@@ -5,7 +5,7 @@
 #include <QPixmap>
 #include <QString>
 
-#include "engine/Errors.h"
+#include "engine/state/Errors.h"
 
 namespace Parlino {
 

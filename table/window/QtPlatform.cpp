@@ -15,7 +15,7 @@
 #include <QTime>
 #include <QWindow>
 
-#include "engine/Errors.h"
+#include "engine/state/Errors.h"
 #include "table/window/Design.h"
 #include "table/window/Pictures.h"
 #include "table/window/WrappedText.h"

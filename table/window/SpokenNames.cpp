@@ -1,8 +1,7 @@
 #include "table/window/SpokenNames.h"
 
-#include "engine/GameState.h"
-#include "engine/RoundDriver.h"
-#include "engine/TrickPlay.h"
+#include "engine/state/GameState.h"
+#include "engine/state/Questions.h"
 #include "table/CardDisplay.h"
 #include "table/window/Design.h"
 

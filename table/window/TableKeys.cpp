@@ -8,7 +8,7 @@
 #include <QKeyEvent>
 #include <QPushButton>
 
-#include "engine/TrickPlay.h"
+#include "engine/state/Questions.h"
 #include "platform/Platform.h"
 #include "table/CardDisplay.h"
 #include "table/TableEvents.h"

@@ -9,7 +9,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
-#include "table/ErrorReport.h"
+#include "engine/state/ErrorReport.h"
 #include "table/TableEvents.h"
 #include "table/window/Design.h"
 #include "table/window/PendingEvents.h"

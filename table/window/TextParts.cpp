@@ -3,7 +3,7 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 #include "table/TableEvents.h"
 #include "table/window/CaptionLabel.h"
 #include "table/window/Design.h"

@@ -4,7 +4,7 @@
 #include <map>
 #include <string>
 
-#include "platform/HeadlessInFolder.h"
+#include "headless/HeadlessInFolder.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace Parlino {

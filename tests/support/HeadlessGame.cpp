@@ -5,6 +5,7 @@
 
 #include "engine/Generator.h"
 #include "engine/TrickPlay.h"
+#include "engine/state/Questions.h"
 #include "game/Game.h"
 #include "table/MessageDialog.h"
 #include "table/TableEvents.h"
@@ -75,8 +76,7 @@ void SetTrick(Integer leader, std::string_view cards) {
   Leader = leader;
   int position = 1;
   ForEachWord(cards, [&](const std::string& card) {
-    RecordInTrick(position, static_cast<Integer>(CardOf(card)));
-    TrickSeats[position] = SeatAfter(leader, position - 1);
+    RecordInTrick(position, SeatAfter(leader, position - 1), static_cast<Integer>(CardOf(card)));
     ++position;
   });
 }

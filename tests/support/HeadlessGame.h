@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include "engine/GameState.h"
-#include "platform/Headless.h"
+#include "engine/state/GameState.h"
+#include "headless/Headless.h"
 
 namespace Parlino {
 

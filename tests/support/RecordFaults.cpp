@@ -1,7 +1,7 @@
 #include "tests/support/RecordFaults.h"
 
-#include "engine/Errors.h"
-#include "platform/Headless.h"
+#include "engine/state/Errors.h"
+#include "headless/Headless.h"
 
 namespace Parlino {
 namespace {

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <tuple>
 
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 #include "persistence/DataFiles.h"
 
 namespace Parlino {

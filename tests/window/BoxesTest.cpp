@@ -7,7 +7,7 @@
 #include <QMessageBox>
 
 #include "WindowGame.h"
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 
 namespace Parlino {
 namespace {

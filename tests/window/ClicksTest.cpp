@@ -5,7 +5,7 @@
 #include <QTest>
 
 #include "WindowGame.h"
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 #include "table/CardDisplay.h"
 #include "table/TableEvents.h"
 

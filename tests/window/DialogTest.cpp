@@ -7,7 +7,7 @@
 #include <QTest>
 
 #include "WindowGame.h"
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 #include "table/MessageDialog.h"
 #include "table/window/Design.h"
 

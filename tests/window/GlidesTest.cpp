@@ -11,7 +11,7 @@
 
 #include "WindowGame.h"
 #include "engine/Deal.h"
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 #include "table/CardDisplay.h"
 #include "table/window/Design.h"
 #include "table/window/DesktopMotion.h"

@@ -4,8 +4,8 @@
 #include <QLabel>
 
 #include "WindowGame.h"
-#include "engine/GameState.h"
 #include "engine/StartUp.h"
+#include "engine/state/GameState.h"
 #include "table/window/Design.h"
 #include "table/window/SpokenNames.h"
 #include "table/window/WrappedText.h"

@@ -6,7 +6,7 @@
 #include <QListView>
 
 #include "WindowGame.h"
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 #include "table/CardDisplay.h"
 #include "table/window/Pictures.h"
 #include "table/window/TableParts.h"

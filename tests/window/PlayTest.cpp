@@ -6,8 +6,9 @@
 #include <QListView>
 
 #include "WindowGame.h"
-#include "engine/GameState.h"
 #include "engine/RoundDriver.h"
+#include "engine/state/GameState.h"
+#include "engine/state/Questions.h"
 #include "table/TableView.h"
 
 namespace Parlino {

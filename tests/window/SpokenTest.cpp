@@ -10,7 +10,7 @@
 #include <QTest>
 
 #include "WindowGame.h"
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 #include "table/CardDisplay.h"
 #include "table/MessageDialog.h"
 #include "table/TableEvents.h"

@@ -6,8 +6,8 @@
 #include <QMouseEvent>
 #include <QTest>
 
-#include "engine/GameState.h"
 #include "engine/Generator.h"
+#include "engine/state/GameState.h"
 #include "persistence/DataFiles.h"
 #include "table/TableEvents.h"
 

@@ -2,8 +2,9 @@
 
 #include <string_view>
 
-#include "engine/GameState.h"
 #include "engine/RoundDriver.h"
+#include "engine/state/GameState.h"
+#include "engine/state/Questions.h"
 #include "platform/Platform.h"
 #include "table/MessageDialog.h"
 #include "table/TableEvents.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "persistence/PlayerCommands.h"
+#include "persistence/commands/PlayerCommands.h"
 #include "table/TableEvents.h"
 #include "table/TableView.h"
 #include "tools/chaos/TableRules.h"

@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "engine/Errors.h"
 #include "engine/RoundDriver.h"
+#include "engine/state/Errors.h"
+#include "engine/state/Questions.h"
 #include "persistence/DataFiles.h"
 #include "persistence/Records.h"
 #include "platform/Platform.h"

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 
 namespace Parlino {
 

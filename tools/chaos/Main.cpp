@@ -6,11 +6,11 @@
 #include <iostream>
 #include <string>
 
-#include "engine/Errors.h"
-#include "engine/GameState.h"
 #include "engine/Generator.h"
+#include "engine/state/Errors.h"
+#include "engine/state/GameState.h"
 #include "game/Game.h"
-#include "platform/Headless.h"
+#include "headless/Headless.h"
 #include "table/TableView.h"
 #include "tools/CommandLine.h"
 #include "tools/chaos/ChaosSession.h"

@@ -4,8 +4,9 @@
 #include <array>
 #include <string>
 
-#include "engine/GameState.h"
 #include "engine/RoundDriver.h"
+#include "engine/state/GameState.h"
+#include "engine/state/Questions.h"
 #include "table/TableView.h"
 
 namespace Parlino {

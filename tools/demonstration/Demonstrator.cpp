@@ -8,9 +8,9 @@
 #include <QWidget>
 
 #include "engine/RoundDriver.h"
-#include "engine/TrickPlay.h"
-#include "robots/AnyHand.h"
+#include "engine/state/Questions.h"
 #include "robots/Bidding.h"
+#include "robots/Choices.h"
 #include "table/MessageDialog.h"
 #include "table/TableView.h"
 
@@ -81,7 +81,7 @@ void Demonstrator::Act() {
   }
   if (PlayerTurn == False) return;
   if (TrickNumber == TrickOfPicture) TakePicture("4-middle");
-  Click(FindWidget("Cds", ChooseCardAt(HumansPosition(), Player)), SpotOnCard);
+  Click(FindWidget("Cds", ChoiceAt(HumansPosition()).card(Player)), SpotOnCard);
 }
 
 void Demonstrator::LeaveWithScore() {

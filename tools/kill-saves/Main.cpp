@@ -17,7 +17,7 @@
 #include <unistd.h>
 
 #include "game/Game.h"
-#include "platform/HeadlessInFolder.h"
+#include "headless/HeadlessInFolder.h"
 #include "table/TableEvents.h"
 #include "tools/CommandLine.h"
 #include "tools/kill-saves/States.h"

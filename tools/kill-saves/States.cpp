@@ -1,7 +1,7 @@
 #include "tools/kill-saves/States.h"
 
-#include "engine/GameState.h"
-#include "platform/Headless.h"
+#include "engine/state/GameState.h"
+#include "headless/Headless.h"
 
 namespace Parlino {
 

@@ -10,7 +10,7 @@
 
 #include "engine/TrickFlow.h"
 #include "game/Game.h"
-#include "platform/Headless.h"
+#include "headless/Headless.h"
 #include "table/MessageDialog.h"
 #include "table/TableEvents.h"
 #include "table/TableView.h"

@@ -2,9 +2,9 @@
 
 #include <string_view>
 
-#include "engine/TrickPlay.h"
-#include "robots/AnyHand.h"
+#include "engine/state/Questions.h"
 #include "robots/Bidding.h"
+#include "robots/Choices.h"
 #include "table/TableEvents.h"
 #include "table/TableView.h"
 
@@ -60,7 +60,7 @@ int South::ChooseBid() {
 }
 
 int South::ChooseCard() {
-  if (kind_ == SouthKind::Robot) return ChooseCardAt(HumansPosition(), Player);
+  if (kind_ == SouthKind::Robot) return ChoiceAt(HumansPosition()).card(Player);
   const CardSet cards = Playable(HandOnTable());
   auto choice = cards.begin();
   for (int skipped = generator_.NextBelow(cards.Count()); skipped > 0; --skipped) ++choice;

@@ -5,7 +5,7 @@
 #include <QAbstractItemModel>
 #include <QListView>
 
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 #include "table/window/Design.h"
 #include "table/window/PictureView.h"
 #include "table/window/Pictures.h"

@@ -1,14 +1,14 @@
-#include "table/ErrorReport.h"
+#include "table/ErrorBox.h"
 
 #include <cerrno>
 #include <string>
 
-#include "engine/Errors.h"
+#include "engine/state/Errors.h"
 #include "platform/Platform.h"
 
 namespace Parlino {
 
-void ShowErrorReport(std::string_view procedure, const std::exception& error) {
+void ShowErrorBox(std::string_view procedure, const std::exception& error) {
   const auto* known = dynamic_cast<const GameError*>(&error);
   const int number = known != nullptr ? known->Number() : EFAULT;
   std::string text = "Unexpected error in procedure: ";

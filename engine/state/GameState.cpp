@@ -1,6 +1,6 @@
-#include "engine/GameState.h"
+#include "engine/state/GameState.h"
 
-#include "table/ErrorReport.h"
+#include "engine/state/ErrorReport.h"
 
 namespace Parlino {
 namespace {
@@ -49,21 +49,17 @@ void ResetGameState() {
   SeatNames = {};
   Dealer = Leader = TrumpSuit = 0;
   Bids = {};
+  HandInProgress = false;
   OurBid = TheirBid = 0;
   TrickNumber = TrickWinner = 0;
   TrickCards = TrickSuits = TrickSeats = {};
   TricksWon = {};
   PlayerTurn = PlayerHasPlayed = GameInProgress = HideWelcome = False;
-  OurPoints = TheirPoints = GamesWon = GamesPlayed = 0;
+  OurPoints = TheirPoints = OurHandScore = TheirHandScore = 0;
+  GamesWon = GamesPlayed = 0;
   DefaultPauseMs = PauseMs = 0;
   PauseStartTicks = 0;
   MessageChoice = 0;
-}
-
-std::string CardText(int card) {
-  if (card < 1 || card > CardsInPack) return "--";
-  const auto place = static_cast<std::size_t>(card - 1);
-  return {"23456789TJQKA"[place % CardsInSuit], "DCHS"[place / CardsInSuit]};
 }
 
 }  // namespace Parlino

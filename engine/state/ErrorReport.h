@@ -7,10 +7,8 @@
 
 namespace Parlino {
 
-inline constexpr std::string_view ApplicationTitle = "Parlino";
-
-// Shows the report box for an error caught in `procedure`.
-void ShowErrorReport(std::string_view procedure, const std::exception& error);
+// Shows the player an error caught in `procedure`. Set once, before anything else of the game runs.
+inline void (*ShowErrorReport)(std::string_view procedure, const std::exception& error) = nullptr;
 
 // Runs the body of `procedure`. An error in it is shown to the player and the procedure is left,
 // with a zero result where it has one; an abandoned hand and the end of the program pass through,

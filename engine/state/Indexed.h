@@ -4,7 +4,7 @@
 #include <array>
 #include <cstddef>
 
-#include "engine/Errors.h"
+#include "engine/state/Errors.h"
 
 namespace Parlino {
 

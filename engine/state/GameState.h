@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "engine/CardSet.h"
-#include "engine/Indexed.h"
+#include "engine/state/CardSet.h"
+#include "engine/state/Indexed.h"
 
 namespace Parlino {
 
@@ -66,6 +66,7 @@ inline Integer Dealer;
 inline Integer Leader;     // leads the trick to be played; trick flow passes it to each winner
 inline Integer TrumpSuit;  // a suit, or -1 until the deal has ended
 inline Indexed<Integer, 0, 3> Bids;  // 1..13 once the seat has bid, 0 before
+inline bool HandInProgress;          // from the clearing of the table to the end of the hand
 inline Integer OurBid;
 inline Integer TheirBid;
 
@@ -84,6 +85,8 @@ inline Flag PlayerHasPlayed;  // the human's card of this turn is on the table
 inline Flag GameInProgress;
 inline Integer OurPoints;
 inline Integer TheirPoints;
+inline Integer OurHandScore;  // the points that each team made in the hand last scored
+inline Integer TheirHandScore;
 inline Integer GamesWon;
 inline Integer GamesPlayed;
 inline Flag HideWelcome;
@@ -138,8 +141,5 @@ inline CardSet HandOf(Integer seat) {
 
 // "Diamonds".."Spades" for a suit 4..7.
 std::string_view SuitNameOf(int suit);
-
-// A card in two letters, as in a bridge column: "QH", "TS"; "--" for a number that is no card.
-std::string CardText(int card);
 
 }  // namespace Parlino

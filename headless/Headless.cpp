@@ -1,9 +1,9 @@
-#include "platform/Headless.h"
+#include "headless/Headless.h"
 
 #include <algorithm>
 #include <cerrno>
 
-#include "engine/Errors.h"
+#include "engine/state/Errors.h"
 #include "persistence/DataFiles.h"
 #include "table/MessageDialog.h"
 #include "table/TableView.h"

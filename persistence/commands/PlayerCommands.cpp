@@ -1,8 +1,8 @@
-#include "persistence/PlayerCommands.h"
+#include "persistence/commands/PlayerCommands.h"
 
-#include "engine/GameState.h"
 #include "engine/RoundDriver.h"
 #include "engine/StartUp.h"
+#include "engine/state/GameState.h"
 #include "persistence/DataFiles.h"
 #include "persistence/Records.h"
 #include "platform/Platform.h"

@@ -5,7 +5,7 @@
 #include <bit>
 #include <cstdint>
 
-#include "engine/Errors.h"
+#include "engine/state/Errors.h"
 
 namespace Parlino {
 

@@ -1,4 +1,4 @@
-#include "engine/Errors.h"
+#include "engine/state/Errors.h"
 
 #include <cerrno>
 #include <limits>

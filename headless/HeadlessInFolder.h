@@ -5,8 +5,8 @@
 #include <string>
 #include <utility>
 
+#include "headless/Headless.h"
 #include "platform/FolderFiles.h"
-#include "platform/Headless.h"
 
 namespace Parlino {
 

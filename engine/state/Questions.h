@@ -1,0 +1,47 @@
+// What may be asked about the state of the game. A question changes nothing, so that anybody may
+// ask it at any time: the robots, the course of the game, and the window whenever it draws or
+// speaks.
+#pragma once
+
+#include "engine/state/GameState.h"
+
+namespace Parlino {
+
+// The name of the seat: PlayerName for the human's.
+const std::string& NameOf(Integer seat);
+
+// Whether a hand is being dealt, bid or played.
+inline bool HandIsUnderWay() {
+  return HandInProgress;
+}
+
+// The position 1..4 at which the human plays to the trick that Leader leads.
+int HumansPosition();
+
+// Whether the seat holds a card of the suit that was led.
+bool HoldsLedSuit(Integer seat);
+
+// Whether the seat holds `card` and may play it to the trick: any card at the head of a trick or
+// without a card of the led suit, otherwise a card of the led suit.
+bool MayPlayCard(Integer seat, Integer card, int position);
+
+// The cards that the human may play now: none out of turn.
+CardSet CardsHumanMayPlay();
+
+// The seat that wins the four cards of the trick: the highest trump, or else the highest card of
+// the led suit.
+Integer WinnerOfTrick();
+
+// The tricks that the team has won in this hand: Player and North, West and East.
+int OurTricks();
+int TheirTricks();
+
+// The points a team makes in a hand: 10 for every trick bid and 1 for every trick over, or 10 lost
+// for every trick bid.
+Integer HandScore(int tricks, int bid);
+
+// Whether a team has reached the target and the totals differ. Equal totals never end a game,
+// however high they are.
+bool GameIsOver();
+
+}  // namespace Parlino

@@ -1,0 +1,20 @@
+#include "engine/state/TrickQueries.h"
+
+#include "engine/state/ErrorReport.h"
+#include "engine/state/Questions.h"
+
+namespace Parlino {
+
+bool HasStartSuitQuery(Integer seat) {
+  return ReportErrors("HasStartSuitQuery", [seat] {
+    if (HoldsLedSuit(seat)) return true;
+    PauseMs = DefaultPauseMs;
+    return false;
+  });
+}
+
+bool CardGoneQuery(Integer value, Integer suit) {
+  return ReportErrors("CardGoneQuery", [value, suit] { return HoldsCard(NoSeat, value, suit); });
+}
+
+}  // namespace Parlino

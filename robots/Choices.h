@@ -1,0 +1,28 @@
+// What a robot plays, wherever it sits in the trick.
+#pragma once
+
+#include <string_view>
+
+#include "engine/state/GameState.h"
+#include "robots/FourthHand.h"
+#include "robots/Lead.h"
+#include "robots/SecondAndThirdHand.h"
+
+namespace Parlino {
+
+struct Choice {
+  Integer (*card)(Integer seat);
+  std::string_view procedure;  // that plays it: its errors are reported under this name
+};
+
+// A position's choice; positions are 1..4.
+inline const Choice& ChoiceAt(int position) {
+  static constexpr Choice choices[] = {{ChooseFirstCard, "PlayFirstCard"},
+                                       {ChooseSecondCard, "PlaySecondCard"},
+                                       {ChooseThirdCard, "PlayThirdCard"},
+                                       {ChooseFourthCard, "PlayFourthCard"}};
+  if (position < 1 || position > SeatsAtTable) RaiseIndexError(position, 1, SeatsAtTable);
+  return choices[position - 1];
+}
+
+}  // namespace Parlino

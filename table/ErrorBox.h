@@ -1,0 +1,12 @@
+// The plain box in which the player reads of an error.
+#pragma once
+
+#include <exception>
+#include <string_view>
+
+namespace Parlino {
+
+// Shows the error caught in `procedure`, with its number and description, and waits for OK.
+void ShowErrorBox(std::string_view procedure, const std::exception& error);
+
+}  // namespace Parlino
