@@ -9,7 +9,6 @@ namespace Parlino::RichText {
 namespace {
 
 constexpr int SymbolCharsetNumber = 2;
-constexpr int DeepestHeading = 9;
 
 const Font Nameless;
 

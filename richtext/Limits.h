@@ -24,11 +24,12 @@ inline constexpr std::size_t MostTableEntries = 1'024;  // of fonts, colours, st
 inline constexpr std::size_t MostNameCharacters = 64;
 inline constexpr std::size_t MostNestedGroups = 256;
 
-inline constexpr int FurthestTwips = 31'680;  // 22 inches
+inline constexpr int FurthestTwips = 28'800;  // 20 inches, more than any page needs
 inline constexpr int FurthestEdge =
     1'000'000;  // of a cell; writers stretch tables far off the page
 inline constexpr int SmallestHalfPoints = 2;
 inline constexpr int LargestHalfPoints = 800;
+inline constexpr int DeepestHeading = 9;
 
 // A distance to either side, the edge of a cell, and a distance that cannot be negative.
 inline int ToTwips(int number) {

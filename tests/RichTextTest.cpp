@@ -98,7 +98,8 @@ TEST(RichText, ReadsHowParagraphsAreLaidOut) {
       {"\\li720\\fi-360\\ri20\\sb60\\sa80\\tx300\\tqr\\tx900 a\\par{\\pard\\li1 b\\par}c",
        "(li720 ri20 fi-360 sb60 sa80 tx300 tx900)a\n(li1)b\n(li720 ri20 fi-360 sb60 sa80 tx300 "
        "tx900)c"},
-      {"\\li4294967316\\fi-4294967316\\sa-5\\tx-5\\tx0 a", "(li31680 fi-31680)a"},
+      {"\\li4294967316\\fi-4294967316\\ri99999\\sb99999\\sa-5\\tx-5\\tx0\\tx99999 a",
+       "(li28800 ri28800 fi-28800 sb28800 tx28800)a"},
       {" a\\par\\par b\\sect c\\\nd\\par", "a\n\nb\nc\nd"},
       {"{\\pntext\\f1\\'95\\tab}{\\*\\pn\\pnlvlblt{\\pntxtb\\'95}}a\\par"
        "{\\listtext\\pard\\plain  1.\\tab}b\\par{\\listtext\\tab}c\\par{\\*\\listtext\\u-3913?}d",
@@ -137,6 +138,7 @@ TEST(RichText, ReadsTables) {
       {"\\trowd\\cellx21845\\cellx65534\\cellx2000000 a\\cell b\\cell c\\cell\\row",
        "table\n  0 21845[a] 65534[b] 1000000[c]"},
       {"\\trowd\\cellx9\\trleft30 a\\cell\\row", "table\n  30 30[a]"},
+      {"\\trowd\\cellx9\\trleft99999 a\\cell\\row", "table\n  28800 28800[a]"},
       {"\\trowd\\cellx9\\row\\row a\\cell", "table\n  0 9[a]"},
       {"\\intbl a\\par\\pard b", "a\nb"},
       {"\\trowd\\cellx9\\row\\intbl a\\cell\\pard b\\par c", "table\n  0 9[a]\nb\nc"},

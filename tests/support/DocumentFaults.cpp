@@ -24,7 +24,9 @@ std::size_t CharacterLength(std::string_view text) {
   }
   constexpr char32_t Least[] = {0, 0, 0xA0, 0x800, 0x10000};
   const bool isSurrogate = character >= 0xD800 && character <= 0xDFFF;
-  return character < Least[length] || isSurrogate || character > 0x10FFFF ? 0 : length;
+  const bool isSeparator = character == 0x2028 || character == 0x2029;
+  const bool isNone = character < Least[length] || isSurrogate || character > 0x10FFFF;
+  return isNone || isSeparator ? 0 : length;
 }
 
 class Inspector {
@@ -74,6 +76,7 @@ class Inspector {
       Expect(cell.RightEdge <= FurthestEdge, "an edge out of bounds");
       Expect(cell.RightEdge >= edge, "an edge that goes back");
       Expect(!cell.Paragraphs.empty(), "a cell without a paragraph");
+      Expect(!cell.Ground || *cell.Ground <= 0xFFFFFF, "a ground of no colour");
       edge = cell.RightEdge;
       bytes_ += cell.Paragraphs.capacity() * sizeof(Paragraph);
       for (const Paragraph& paragraph : cell.Paragraphs) Inspect(paragraph);
@@ -87,8 +90,9 @@ class Inspector {
     for (const int space : {paragraph.SpaceBefore, paragraph.SpaceAfter}) InspectTwips(space, 0);
     for (const int tab : paragraph.Tabs) InspectTwips(tab, 1);
     Expect(paragraph.Tabs.size() <= MostTabs, "too many tabs");
-    Expect(paragraph.Heading >= 0 && paragraph.Heading <= 9, "a heading of no rank");
+    Expect(paragraph.Heading >= 0 && paragraph.Heading <= DeepestHeading, "a heading of no rank");
     InspectText(paragraph.Marker);
+    Expect(paragraph.Marker.find('\n') == std::string::npos, "a marker of two lines");
     bytes_ += paragraph.Tabs.capacity() * sizeof(int) + paragraph.Marker.capacity() +
               paragraph.Runs.capacity() * sizeof(Run);
     Expect(paragraph.Runs.size() <= MostRunsInParagraph, "a paragraph of too many runs");
