@@ -73,7 +73,7 @@ void HelpText::ShowText(const RichText::Document& text) {
 }
 
 void HelpText::Write() {
-  WriteDocument(*text_, {.zoom = Zooms[level_]}, *document());
+  WriteDocument(*text_, Zooms[level_], *document());
 }
 
 void HelpText::ZoomBack() {
@@ -82,7 +82,8 @@ void HelpText::ZoomBack() {
 
 // What stood at the top of the page stands there again, and what was selected still is.
 void HelpText::Zoom(int level) {
-  if (text_ == nullptr || level < 0 || level >= std::ssize(Zooms) || level == level_) return;
+  level = qBound(0, level, static_cast<int>(std::ssize(Zooms)) - 1);
+  if (level == level_) return;
   const int top = verticalScrollBar()->value() == 0 ? 0 : cursorForPosition({Margin, 0}).position();
   const int anchor = textCursor().anchor();
   const int position = textCursor().position();
@@ -130,9 +131,8 @@ void HelpText::wheelEvent(QWheelEvent* event) {
   if (!event->modifiers().testFlag(Qt::ControlModifier)) return QTextEdit::wheelEvent(event);
   event->accept();
   wheel_ += event->angleDelta().y();
-  const int steps = wheel_ / WheelStep;
+  Zoom(level_ + wheel_ / WheelStep);
   wheel_ %= WheelStep;
-  if (steps != 0) Zoom(qBound(0, level_ + steps, static_cast<int>(std::ssize(Zooms)) - 1));
 }
 
 }  // namespace Parlino

@@ -31,18 +31,18 @@ Paragraph NoteOfCut() {
 
 class DocumentWriter {
  public:
-  DocumentWriter(const Page& page, QTextDocument& target) : page_(page), cursor_(&target) {}
+  DocumentWriter(double zoom, QTextDocument& target) : zoom_(zoom), cursor_(&target) {}
 
   void Write(const Paragraph& paragraph) {
     if (!isBlockFree_) cursor_.insertBlock();
-    WriteParagraph(paragraph, page_.zoom, cursor_);
+    WriteParagraph(paragraph, zoom_, cursor_);
     isBlockFree_ = false;
   }
 
   void Write(const Table& table) {
     if (!FitsGrid(table)) return WriteAsText(table);
     if (isBlockFree_) ShrinkEmptyBlock(cursor_);
-    WriteTable(table, page_, cursor_);
+    WriteTable(table, zoom_, cursor_);
     cursor_.movePosition(QTextCursor::End);
     isBlockFree_ = true;
   }
@@ -64,17 +64,17 @@ class DocumentWriter {
         for (const Paragraph& paragraph : cell.Paragraphs) Write(paragraph);
   }
 
-  Page page_;
+  double zoom_;
   QTextCursor cursor_;
   bool isBlockFree_ = true;  // whether the cursor stands in a paragraph not yet written
 };
 
 }  // namespace
 
-void WriteDocument(const RichText::Document& source, const Page& page, QTextDocument& target) {
+void WriteDocument(const RichText::Document& source, double zoom, QTextDocument& target) {
   target.clear();
   target.setUndoRedoEnabled(false);
-  DocumentWriter(page, target).Write(source);
+  DocumentWriter(zoom, target).Write(source);
 }
 
 }  // namespace Parlino

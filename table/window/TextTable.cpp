@@ -4,7 +4,6 @@
 
 #include <QTextTable>
 
-#include "richtext/Limits.h"
 #include "table/window/TextWriter.h"
 
 namespace Parlino {
@@ -14,24 +13,20 @@ using RichText::Cell;
 using RichText::Row;
 using RichText::Table;
 
-constexpr int CloseEdges = 60;     // twips
-constexpr int MostColumns = 60;    // a table with more is none that anybody could read
-constexpr int MostCells = 20'000;  // of the grid, not only those that hold something
+constexpr int CloseEdges = 60;       // twips
+constexpr int PageWidth = 560;       // pixels at zoom 1; a wider table fills the width there is
+constexpr int MostGridColumns = 60;  // nobody could read a table with more
+constexpr int MostGridCells = 20'000;
 
 // The right edges of the row's cells, each wide enough to be seen.
 std::vector<int> RightEdges(const Row& row) {
   std::vector<int> edges;
-  int before = std::max(0, RichText::ToEdge(row.LeftEdge));
+  int before = std::max(0, row.LeftEdge);
   for (const Cell& cell : row.Cells) {
-    before = std::max(RichText::ToEdge(cell.RightEdge), before + CloseEdges);
+    before = std::max(cell.RightEdge, before + CloseEdges);
     edges.push_back(before);
   }
   return edges;
-}
-
-int LeftEdge(const Table& table) {
-  const auto left = std::ranges::min_element(table.Rows, {}, &Row::LeftEdge);
-  return std::clamp(left->LeftEdge, -LongestLength, LongestLength);
 }
 
 QTextLength PartOfWidth(double part) {
@@ -39,8 +34,9 @@ QTextLength PartOfWidth(double part) {
   return QTextLength(QTextLength::PercentageLength, whole * std::min(1.0, part));
 }
 
-QTextTableFormat TableFormat(const Table& table, const Page& page, const std::vector<int>& edges) {
-  const int left = std::min(LeftEdge(table), edges.front() - CloseEdges);
+QTextTableFormat TableFormat(const Table& table, double zoom, const std::vector<int>& edges) {
+  const auto leftmost = std::ranges::min_element(table.Rows, {}, &Row::LeftEdge);
+  const int left = std::min(leftmost->LeftEdge, edges.front() - CloseEdges);
   const double width = edges.back() - left;
   QList<QTextLength> columns;
   int before = left;
@@ -49,12 +45,12 @@ QTextTableFormat TableFormat(const Table& table, const Page& page, const std::ve
     before = edge;
   }
   QTextTableFormat format;
-  format.setWidth(PartOfWidth(width * LengthInPixels(1, page.zoom) / page.textWidth));
+  format.setWidth(PartOfWidth(width * LengthInPixels(1, zoom) / PageWidth));
   format.setColumnWidthConstraints(columns);
-  format.setLeftMargin(std::max(0.0, LengthInPixels(left, page.zoom)));
-  format.setTopMargin(6 * page.zoom);
-  format.setBottomMargin(10 * page.zoom);
-  format.setCellPadding(4 * page.zoom);
+  format.setLeftMargin(std::max(0.0, LengthInPixels(left, zoom)));
+  format.setTopMargin(6 * zoom);
+  format.setBottomMargin(10 * zoom);
+  format.setCellPadding(4 * zoom);
   format.setCellSpacing(0);
   format.setBorder(table.HasBorders ? 1 : 0);
   format.setBorderCollapse(true);
@@ -111,16 +107,16 @@ std::vector<int> ColumnEdges(const Table& table) {
 
 bool FitsGrid(const Table& table) {
   const std::size_t columns = ColumnEdges(table).size();
-  return columns > 0 && columns <= MostColumns && table.Rows.size() * columns <= MostCells;
+  return columns <= MostGridColumns && table.Rows.size() * columns <= MostGridCells;
 }
 
-void WriteTable(const Table& table, const Page& page, QTextCursor& cursor) {
+void WriteTable(const Table& table, double zoom, QTextCursor& cursor) {
   const std::vector<int> edges = ColumnEdges(table);
   QTextTable* grid =
       cursor.insertTable(static_cast<int>(table.Rows.size()), static_cast<int>(edges.size()),
-                         TableFormat(table, page, edges));
+                         TableFormat(table, zoom, edges));
   int number = 0;
-  for (const Row& row : table.Rows) WriteRow(row, number++, edges, page.zoom, *grid);
+  for (const Row& row : table.Rows) WriteRow(row, number++, edges, zoom, *grid);
 }
 
 }  // namespace Parlino

@@ -19,8 +19,7 @@ constexpr int HangOfMarker = 300;  // twips, where the document leaves no room f
 // Where the text of a paragraph stands between the edges, in twips. It may not leave the page.
 struct Indents {
   explicit Indents(const Paragraph& paragraph)
-      : left(std::clamp(paragraph.LeftIndent, 0, LongestLength)),
-        first(std::clamp(paragraph.FirstIndent, -left, LongestLength)) {
+      : left(std::max(0, paragraph.LeftIndent)), first(std::max(paragraph.FirstIndent, -left)) {
     if (paragraph.Marker.empty() || first < 0) return;
     left += HangOfMarker;
     first = -HangOfMarker;
@@ -63,8 +62,8 @@ QTextBlockFormat BlockFormat(const Paragraph& paragraph, double zoom) {
   format.setLeftMargin(LengthInPixels(indents.left, zoom));
   format.setTextIndent(LengthInPixels(indents.first, zoom));
   format.setRightMargin(std::max(0.0, LengthInPixels(paragraph.RightIndent, zoom)));
-  format.setTopMargin(std::max(0.0, LengthInPixels(paragraph.SpaceBefore, zoom)));
-  format.setBottomMargin(std::max(0.0, LengthInPixels(paragraph.SpaceAfter, zoom)));
+  format.setTopMargin(LengthInPixels(paragraph.SpaceBefore, zoom));
+  format.setBottomMargin(LengthInPixels(paragraph.SpaceAfter, zoom));
   format.setLineHeight(lineHeight, QTextBlockFormat::ProportionalHeight);
   format.setTabPositions(TabsOf(paragraph, indents, zoom));
   format.setHeadingLevel(paragraph.Heading);
@@ -99,13 +98,12 @@ QTextCharFormat CharFormat(const Style& look, double zoom) {
   return format;
 }
 
-// Characters that would end the paragraph, or a frame in the toolkit's own notation, become blanks.
+// Characters with which Qt marks frames and objects become blanks.
 QString ToParagraphText(const std::string& text) {
   QString result = QString::fromStdString(text);
   for (QChar& letter : result) {
     if (letter == '\n') letter = QChar::LineSeparator;
-    const bool isStructure = letter == '\r' || letter == QChar::ParagraphSeparator ||
-                             letter == QChar::ObjectReplacementCharacter ||
+    const bool isStructure = letter == QChar::ObjectReplacementCharacter ||
                              (letter.unicode() >= 0xFDD0 && letter.unicode() <= 0xFDEF);
     if (isStructure) letter = ' ';
   }
@@ -115,7 +113,7 @@ QString ToParagraphText(const std::string& text) {
 }  // namespace
 
 double LengthInPixels(int twips, double zoom) {
-  return std::clamp(twips, -LongestLength, LongestLength) * zoom / TwipsInPixel;
+  return twips * zoom / TwipsInPixel;
 }
 
 void WriteParagraph(const Paragraph& paragraph, double zoom, QTextCursor& cursor) {

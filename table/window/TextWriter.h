@@ -11,9 +11,7 @@ namespace Parlino {
 // behind it.
 void WriteParagraph(const RichText::Paragraph& paragraph, double zoom, QTextCursor& cursor);
 
-inline constexpr int LongestLength = 20 * 1440;  // twips, more than any page needs
-
-// A length as pixels, cut to the longest.
+// A length as pixels.
 double LengthInPixels(int twips, double zoom);
 
 }  // namespace Parlino

@@ -1,11 +1,12 @@
 // Formatted text as the help window lays it out.
+#include <algorithm>
 #include <gtest/gtest.h>
-#include <limits>
 
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextTable>
 
+#include "richtext/Limits.h"
 #include "table/window/TextDocument.h"
 
 namespace Parlino {
@@ -44,7 +45,7 @@ TEST(TextDocument, ParagraphsKeepTheirTextAndTheirLook) {
   text.LeftIndent = 600;
   text.FirstIndent = 300;
   QTextDocument target;
-  WriteDocument({.Blocks = {heading, text}, .IsCut = true}, {.zoom = 2}, target);
+  WriteDocument({.Blocks = {heading, text}, .IsCut = true}, 2, target);
   EXPECT_EQ(LinesOf(target).mid(0, 3), (QStringList{"Scores", "one", "two"}));
   EXPECT_TRUE(LinesOf(target).last().startsWith("The document goes on"));
   EXPECT_EQ(target.blockCount(), 3) << "a line break is no new paragraph";
@@ -79,7 +80,7 @@ TEST(TextDocument, MarkersHangBesideTheText) {
     point.FirstIndent = example.first;
     point.Tabs = example.tabs;
     QTextDocument target;
-    WriteDocument({.Blocks = {point}}, {}, target);
+    WriteDocument({.Blocks = {point}}, 1, target);
     EXPECT_EQ(target.toPlainText(), "\u2022\ttext");
     const QTextBlockFormat format = target.firstBlock().blockFormat();
     EXPECT_EQ(format.leftMargin(), example.margin);
@@ -99,7 +100,7 @@ TEST(TextDocument, CellsSpanTheColumnsOfOtherRows) {
   table.Rows.push_back({0, {CellOf(1000, "whole")}});
   table.Rows[1].Cells[0].Ground = 0x00FF00;
   QTextDocument target;
-  WriteDocument({.Blocks = {TextOf("before"), table, TextOf("after")}}, {}, target);
+  WriteDocument({.Blocks = {TextOf("before"), table, TextOf("after")}}, 1, target);
   const auto* grid = qobject_cast<QTextTable*>(target.rootFrame()->childFrames().value(0));
   ASSERT_NE(grid, nullptr);
   EXPECT_EQ(grid->columns(), 3);
@@ -117,43 +118,45 @@ TEST(TextDocument, NoCellOfATableIsLost) {
   constexpr int edges[][3] = {{21845, 39340, 65534},
                               {100, 100, 100},
                               {0, 0, 0},
-                              {-900, 50, 20},
+                              {-900, 20, 50},
                               {1'000'000, 1'000'000, 1'000'000}};
   Table table;
   QStringList texts;
   for (const auto& row : edges) {
-    table.Rows.emplace_back();
+    table.Rows.push_back({std::min(0, row[0]), {}});
     for (const int edge : row) {
       texts << QString("cell%1").arg(texts.size());
       table.Rows.back().Cells.push_back(CellOf(edge, texts.last().toUtf8()));
     }
   }
   QTextDocument target;
-  WriteDocument({.Blocks = {table}}, {}, target);
+  WriteDocument({.Blocks = {table}}, 1, target);
   for (const QString& text : texts)
     EXPECT_TRUE(LinesOf(target).contains(text)) << text.toStdString();
 }
 
-TEST(TextDocument, NothingInTheSourceBreaksTheStructureOrCostsWithoutEnd) {
-  constexpr int most = std::numeric_limits<int>::max();
-  constexpr int least = std::numeric_limits<int>::min();
-  Paragraph odd = TextOf("a\u2029b\uFDD0c\uFFFCd\re");
-  odd.LeftIndent = odd.FirstIndent = odd.RightIndent = odd.SpaceBefore = most;
-  odd.Tabs = {least, most};
-  odd.Runs[0].Look.HalfPoints = most;
+// The numbers are the outermost that a document may hold.
+TEST(TextDocument, NothingInADocumentBreaksTheStructureOrCostsWithoutEnd) {
+  using RichText::FurthestTwips;
+  Paragraph odd = TextOf("a\uFDD0b\uFFFCc");
+  odd.LeftIndent = odd.FirstIndent = odd.RightIndent = odd.SpaceBefore = FurthestTwips;
+  odd.Tabs = {1, FurthestTwips};
+  odd.Runs[0].Look.HalfPoints = RichText::LargestHalfPoints;
   Paragraph outside = TextOf("outside");
-  outside.LeftIndent = outside.FirstIndent = outside.SpaceAfter = least;
-  outside.Runs[0].Look.HalfPoints = least;
+  outside.LeftIndent = outside.FirstIndent = outside.RightIndent = -FurthestTwips;
+  outside.Runs[0].Look.HalfPoints = RichText::SmallestHalfPoints;
   Table ragged;
-  ragged.Rows.push_back({least, {CellOf(most, "x"), CellOf(least, "y"), CellOf(0, "z")}});
-  ragged.Rows.emplace_back();
+  ragged.Rows.push_back({-FurthestTwips, {CellOf(-FurthestTwips, "x"), CellOf(0, "y")}});
+  ragged.Rows.push_back({FurthestTwips, {CellOf(RichText::FurthestEdge, "z")}});
   Table huge;  // every row with an edge of its own: a grid would have a million places
   for (int row = 0; row < 1000; ++row) huge.Rows.push_back({0, {CellOf(100 * row, "cell")}});
   QTextDocument target;
-  WriteDocument({.Blocks = {odd, outside, Table(), ragged, ragged, huge}}, {}, target);
-  EXPECT_EQ(LinesOf(target).mid(0, 2), (QStringList{"a b c d e", "outside"}));
+  WriteDocument({.Blocks = {odd, outside, ragged, ragged, huge}}, 1, target);
+  EXPECT_EQ(LinesOf(target).mid(0, 2), (QStringList{"a b c", "outside"}));
   EXPECT_EQ(target.toPlainText().count("cell"), 1000);
-  EXPECT_GE(target.firstBlock().next().blockFormat().leftMargin(), 0);
+  const QTextBlockFormat format = target.firstBlock().next().blockFormat();
+  EXPECT_GE(format.leftMargin() + format.textIndent(), 0);
+  EXPECT_GE(format.rightMargin(), 0);
   EXPECT_EQ(target.rootFrame()->childFrames().size(), 2);
 }
 
