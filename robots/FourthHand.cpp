@@ -20,22 +20,24 @@ bool FollowsSuit(int position) {
   return TrickSuits[position] == LedSuit;
 }
 
-// Low behind a winning partner, an Ace or a ruff; otherwise the Ace over a third hand that followed
-// suit, or the cheapest card above the higher of the first and the third value. The third value
-// counts whatever its suit.
+// Low behind a winning partner or a ruff; otherwise the Ace over a third hand that followed suit,
+// or the cheapest card above the higher of the first and the third value, low where there is none.
+// The third value counts whatever its suit.
 Integer FollowSuitFourth(Integer seat) {
-  const Integer lowest = LowestCardSuit(LedSuit, seat);
-  if (PartnerWinningFourth() || ValueAt(1) == Ace || ValueAt(3) == Ace) return lowest;
-  if (LedSuit != TrumpSuit && IsRuff(3)) return lowest;
-  if (FollowsSuit(3) && HoldsCard(seat, Ace, LedSuit)) return CardNumber(Ace, LedSuit);
-  if (ValueAt(1) == ValueAt(3)) return lowest;
-  const Integer above = LowestCardAbove(LedSuit, std::max(ValueAt(1), ValueAt(3)), seat);
-  return above != 0 ? above : lowest;
+  const bool isRuffed = LedSuit != TrumpSuit && IsRuff(3);
+  if (!PartnerWinningFourth() && !isRuffed) {
+    if (FollowsSuit(3) && HoldsCard(seat, Ace, LedSuit)) return CardNumber(Ace, LedSuit);
+    const Integer higher = std::max(ValueAt(1), ValueAt(3));
+    if (ValueAt(1) != ValueAt(3))
+      if (const Integer above = LowestCardAbove(LedSuit, higher, seat)) return above;
+  }
+  return LowestCardSuit(LedSuit, seat);
 }
 
-// Ruffs a trick in which the third hand followed suit, over-ruffs the third hand, else discards.
+// Ruffs a trick in which the third hand followed suit, over-ruffs the third hand, and otherwise
+// discards. When trumps were led it has none, and so always discards.
 Integer DiscardOrRuffFourth(Integer seat) {
-  if (!PartnerWinningFourth() && LedSuit != TrumpSuit) {
+  if (!PartnerWinningFourth()) {
     if (FollowsSuit(3))
       if (const Integer ruff = LowestCardSuit(TrumpSuit, seat)) return ruff;
     if (IsRuff(3))
@@ -55,17 +57,13 @@ bool PartnerWinningFourth() {
     const Integer second = TrickCards[2];
     const Integer third = TrickCards[3];
     const bool trumpsLed = LedSuit == TrumpSuit;
-    const bool bothFollow = FollowsSuit(2) && FollowsSuit(3);
 
     if (ValueAt(1) == Ace && (trumpsLed || !IsRuff(2))) return false;
-    if (bothFollow && ValueAt(2) != Ace && second < std::min(first, third)) return false;
-    if (trumpsLed && IsRuff(2) && ValueAt(2) == Ace) return true;
+    if (second == CardNumber(Ace, TrumpSuit)) return true;
     if (!trumpsLed && IsRuff(2) && !IsRuff(3)) return true;
-    if (bothFollow && second > std::max(first, third)) return true;
-    if (trumpsLed) return false;
-    if (IsRuff(3) && !IsRuff(2)) return false;
-    if (!IsRuff(3) && second > third) return true;
-    return ValueAt(2) == Ace;
+    if (FollowsSuit(2) && FollowsSuit(3) && second > std::max(first, third)) return true;
+    if (trumpsLed || IsRuff(3)) return false;
+    return second > third || ValueAt(2) == Ace;
   });
 }
 

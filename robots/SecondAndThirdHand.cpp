@@ -15,20 +15,18 @@ Integer SecondValue() {
   return Pack[TrickCards[2]].Value;
 }
 
-// Third hand with a card of the led suit: low behind a winning partner and behind a ruff or an Ace,
-// otherwise the cheapest card that beats the second.
+// Third hand with a card of the led suit: low behind a winning partner and behind a ruff, otherwise
+// the cheapest card that beats the second, low where there is none.
 Integer FollowSuitThird(Integer seat) {
-  const Integer lowest = LowestCardSuit(LedSuit, seat);
-  if (LedValue() == Ace || PartnerWinningThird()) return lowest;
-  if (TrickSuits[2] != LedSuit) return lowest;
-  const Integer above = LowestCardAbove(LedSuit, SecondValue(), seat);
-  return above != 0 ? above : lowest;
+  if (!PartnerWinningThird() && TrickSuits[2] == LedSuit)
+    if (const Integer above = LowestCardAbove(LedSuit, SecondValue(), seat)) return above;
+  return LowestCardSuit(LedSuit, seat);
 }
 
-// Third hand void in the led suit: over-ruffs a ruff when it can, and otherwise discards, also when
-// the second card has won in the led suit.
+// Third hand void in the led suit: over-ruffs a ruff when it can, and otherwise discards, even when
+// the second card is winning in the led suit.
 Integer DiscardOrOverRuffThird(Integer seat) {
-  if (!PartnerWinningThird() && LedSuit != TrumpSuit && TrickSuits[2] == TrumpSuit)
+  if (TrickSuits[2] == TrumpSuit)
     if (const Integer overRuff = LowestCardAbove(TrumpSuit, SecondValue(), seat)) return overRuff;
   return ChooseDiscard(seat);
 }
@@ -37,8 +35,8 @@ Integer DiscardOrOverRuffThird(Integer seat) {
 
 bool BeatStartCardQuery(Integer who) {
   return ReportErrors("BeatStartCardQuery", [who] {
-    if (HasStartSuitQuery(who)) return LowestCardAbove(LedSuit, LedValue(), who) != 0;
-    return LedSuit != TrumpSuit && LowestCardSuit(TrumpSuit, who) != 0;
+    if (LowestCardAbove(LedSuit, LedValue(), who) != 0) return true;
+    return !HasStartSuitQuery(who) && LowestCardSuit(TrumpSuit, who) != 0;
   });
 }
 
@@ -51,11 +49,10 @@ bool PartnerWinningThird() {
 
 Integer ChooseSecondCard(Integer seat) {
   if (HasStartSuitQuery(seat)) {
-    if (LedValue() == Ace || !BeatStartCardQuery(seat)) return LowestCardSuit(LedSuit, seat);
-    return LowestCardAbove(LedSuit, LedValue(), seat);
+    if (BeatStartCardQuery(seat)) return LowestCardAbove(LedSuit, LedValue(), seat);
+    return LowestCardSuit(LedSuit, seat);
   }
-  if (LedSuit != TrumpSuit)
-    if (const Integer ruff = LowestCardSuit(TrumpSuit, seat)) return ruff;
+  if (const Integer ruff = LowestCardSuit(TrumpSuit, seat)) return ruff;
   return ChooseDiscard(seat);
 }
 
