@@ -13,9 +13,9 @@ constexpr TablePoint WestGreetingPlace{1815, 2400};
 constexpr TablePoint EastGreetingPlace{8500, 2400};
 
 // The first values are in force before the file is read, so that they stay when it cannot be.
-void ReadOrUseFirst(std::string_view file, void (*read)()) {
+void ReadOrUseFirst(std::string_view file) {
   UseFirstRecord(file);
-  ReportErrors("Form_Load", read);
+  ReportErrors("Form_Load", [file] { ReadRecord(file); });
 }
 
 void PlaceGreetings() {
@@ -29,25 +29,25 @@ void SkipWelcomePanel() {
   Hide(Table.CmdDontShow);
   Hide(Table.LblIntro);
   SetCaption(Table.LblInfo, {" Press F2 for new game"});
-  Show(Table.FrmMain);
   Show(Table.Shape1);
-  Show(Table.FramScores);
 }
 
 }  // namespace
 
 void Form_Load() {
   ReportErrors("Form_Load", [] {
-    ReadOrUseFirst(SaveGameFile, ReadSaveGame);
-    ReadOrUseFirst(NamesFile, ReadNames);
-    ReadOrUseFirst(PointsFile, ReadPoints);
+    ReadOrUseFirst(SaveGameFile);
+    ReadOrUseFirst(NamesFile);
+    ReadOrUseFirst(PointsFile);
     SeatNames[Player] = PlayerName;
     PlaceGreetings();
     DefaultPauseMs = NormalPauseMs;
-    ReadOrUseFirst(WelcomeFile, ReadWelcome);
-    if (HideWelcome == True) SkipWelcomePanel();
+    ReadOrUseFirst(WelcomeFile);
+    if (HideWelcome == True)
+      SkipWelcomePanel();
+    else
+      Hide(Table.FramScores);
     CreateCardPictures();
-    if (HideWelcome == False) Hide(Table.FramScores);
     SetItUp();
     Show(Table.FrmMain);
   });

@@ -64,16 +64,6 @@ std::string SetAside(std::string_view file) {
   }
 }
 
-void ReadRecord(std::string_view file) {
-  const std::string record = ThePlatform().ReadFile(file);
-  try {
-    TakeRecord(file, record);
-  } catch (const GameError& error) {
-    throw GameError(error.Number(),
-                    JoinText({file, " cannot be understood: ", error.what(), SetAside(file)}));
-  }
-}
-
 RecordWriter PointsRecord() {
   return RecordWriter().Add(GamesWon).Add(GamesPlayed);
 }
@@ -94,21 +84,14 @@ bool WriteRecord(std::string_view file, const RecordWriter& record) {
 
 }  // namespace
 
-void ReadSaveGame() {
-  ReadRecord(SaveGameFile);
-}
-void ReadNames() {
-  ReadRecord(NamesFile);
-}
-void ReadPoints() {
-  ReadRecord(PointsFile);
-}
-void ReadWelcome() {
-  ReadRecord(WelcomeFile);
-}
-
-void WriteFirstRecords() {
-  for (const FirstRecord& first : FirstRecords) ThePlatform().ReplaceFile(first.file, first.record);
+void ReadRecord(std::string_view file) {
+  const std::string record = ThePlatform().ReadFile(file);
+  try {
+    TakeRecord(file, record);
+  } catch (const GameError& error) {
+    throw GameError(error.Number(),
+                    JoinText({file, " cannot be understood: ", error.what(), SetAside(file)}));
+  }
 }
 
 void UseFirstRecord(std::string_view file) {

@@ -6,6 +6,8 @@
 
 namespace Parlino {
 
+// Their fields: PlayerName and SeatNames[1..3]; GamesWon and GamesPlayed; OurPoints, TheirPoints
+// and GameInProgress; HideWelcome.
 inline constexpr std::string_view NamesFile = "Names2.dat";
 inline constexpr std::string_view PointsFile = "Points.dat";
 inline constexpr std::string_view SaveGameFile = "SaveGame.dat";
@@ -23,16 +25,10 @@ inline constexpr FirstRecord FirstRecords[] = {
     {WelcomeFile, "#FALSE#\r\n"},
 };
 
-// Each reads its file into the game state, whole or not at all. A missing, unreadable or malformed
-// file raises a GameError that names it and the reason and leaves the state as it was; a malformed
-// one is first set aside under another name.
-void ReadSaveGame();  // OurPoints, TheirPoints, GameInProgress
-void ReadNames();     // PlayerName, SeatNames[1..3]
-void ReadPoints();    // GamesWon, GamesPlayed
-void ReadWelcome();   // HideWelcome
-
-// Gives the platform the four files of a new game, in place of those it has.
-void WriteFirstRecords();
+// Reads one of the four files into the game state, whole or not at all. A missing, unreadable or
+// malformed file raises a GameError that names it and the reason and leaves the state as it was; a
+// malformed one is first set aside under another name.
+void ReadRecord(std::string_view file);
 
 // Puts what the file would hold in a new game into the game state.
 void UseFirstRecord(std::string_view file);

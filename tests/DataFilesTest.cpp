@@ -43,7 +43,7 @@ TEST(DataFiles, KeepNamesButForWhatARecordCannotHold) {
     ChooseMenu(MenuItem::MnuNameBot2);
     EXPECT_EQ(SeatNames[North], example.kept);
     SeatNames[North] = "forgotten";
-    ReadNames();
+    ReadRecord(NamesFile);
     EXPECT_EQ(SeatNames[North], example.kept);
     EXPECT_EQ(Table.LblName[2].Caption, example.kept + " - Hello and Welcome Player");
   }

@@ -119,7 +119,7 @@ TEST(Records, HaveALongestLength) {
     UsePlatform(platform);
     PlayerName = "kept";
     try {
-      ReadNames();
+      ReadRecord(NamesFile);
     } catch (const GameError& error) {
       EXPECT_EQ(error.what(), "Names2.dat cannot be read: File too large"s);
     }

@@ -43,7 +43,7 @@ void AskWhetherToExit() {
 
 bool ReadSavedGame() {
   try {
-    ReadSaveGame();
+    ReadRecord(SaveGameFile);
   } catch (const GameError&) {
     return false;
   }

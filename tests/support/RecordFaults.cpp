@@ -27,7 +27,7 @@ std::string FindFaultOfAccepted(const RecordDoor& door) {
   if (!door.save()) return "what was read cannot be saved";
   PutOddValues();
   try {
-    door.read();
+    ReadRecord(door.file);
   } catch (const GameError& error) {
     return std::string("what was saved cannot be read: ") + error.what();
   }
@@ -43,7 +43,7 @@ RecordVerdict TryRecord(const RecordDoor& door, std::string_view content) {
   PutOddValues();
   const Kept before = KeptValues();
   try {
-    door.read();
+    ReadRecord(door.file);
   } catch (const GameError& error) {
     if (KeptValues() != before) return {false, "", "it is refused, yet taken in part"};
     return {false, "", FindFaultOfRefused(platform, door, content, error.what())};

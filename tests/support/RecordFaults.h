@@ -12,13 +12,12 @@ namespace Parlino {
 
 struct RecordDoor {
   std::string_view file;
-  void (*read)();
   bool (*save)();
 };
-inline constexpr RecordDoor RecordDoors[] = {{NamesFile, ReadNames, SaveNames},
-                                             {PointsFile, ReadPoints, SavePoints},
-                                             {SaveGameFile, ReadSaveGame, SaveGame},
-                                             {WelcomeFile, ReadWelcome, SaveWelcome}};
+inline constexpr RecordDoor RecordDoors[] = {{NamesFile, SaveNames},
+                                             {PointsFile, SavePoints},
+                                             {SaveGameFile, SaveGame},
+                                             {WelcomeFile, SaveWelcome}};
 
 // Everything of the game that is kept in the files, as it is now.
 inline auto KeptValues() {

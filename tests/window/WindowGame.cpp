@@ -8,7 +8,7 @@
 
 #include "engine/Generator.h"
 #include "engine/state/GameState.h"
-#include "persistence/DataFiles.h"
+#include "headless/FirstFiles.h"
 #include "table/TableEvents.h"
 
 namespace Parlino {

@@ -10,7 +10,7 @@
 
 #include "engine/Generator.h"
 #include "game/Game.h"
-#include "persistence/DataFiles.h"
+#include "headless/FirstFiles.h"
 #include "table/window/QtPlatform.h"
 #include "tools/demonstration/Demonstrator.h"
 

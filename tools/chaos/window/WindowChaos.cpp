@@ -8,7 +8,7 @@
 #include <QDrag>
 
 #include "engine/Generator.h"
-#include "persistence/DataFiles.h"
+#include "headless/FirstFiles.h"
 #include "table/HelpAndAbout.h"
 #include "table/TableEvents.h"
 #include "tools/chaos/window/WindowRules.h"
