@@ -32,7 +32,6 @@ void MakeTableReady() {
   Hide(Table.CmdDontShow);
   Hide(Table.LblIntro);
   Hide(Table.lblTitle);
-  Hide(Table.imgtrumps);
   Show(Table.LblInfo);  // the last note of the hand before has hidden it
 }
 
@@ -60,7 +59,6 @@ void CollectBid(Integer seat) {
 
 void CollectBids() {
   PauseMs = BidPauseMs;
-  Leader = SeatAfter(Dealer);
   for (int place = 1; place <= SeatsAtTable; ++place) CollectBid(SeatAfter(Dealer, place));
   OurBid = ToInteger(Bids[Player] + Bids[North]);
   TheirBid = ToInteger(Bids[West] + Bids[East]);
@@ -119,7 +117,7 @@ void GetDealer() {
       Dealer = SeatAfter(Dealer);
     } else {
       MixClockIntoGenerator();
-      Dealer = static_cast<Integer>(NextRandom() * SeatsAtTable);
+      Dealer = ToInteger(DealGenerator.NextBelow(SeatsAtTable));
     }
     Leader = SeatAfter(Dealer);
   });

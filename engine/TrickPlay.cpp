@@ -57,10 +57,9 @@ void TakeHumansTurn() {
 void Cds_Click(Integer card) {
   ReportErrors("Cds_Click", [card] {
     if (Pack[card].Owner != Player || PlayerTurn == False || GameInProgress == False) return;
-    const int position = HumansPosition();
     // Asked for what it leaves behind: whoever cannot follow suit gets the ordinary pause.
-    if (position > 1) HasStartSuitQuery(Player);
-    if (MayPlayCard(Player, card, position))
+    if (Leader != Player) HasStartSuitQuery(Player);
+    if (MayPlayCard(card))
       PlayHumansCard(card);
     else
       ShowFollowSuitNote();

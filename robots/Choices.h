@@ -15,13 +15,12 @@ struct Choice {
   std::string_view procedure;  // that plays it: its errors are reported under this name
 };
 
-// A position's choice; positions are 1..4.
+// The choice at a position 1..4.
 inline const Choice& ChoiceAt(int position) {
   static constexpr Choice choices[] = {{ChooseFirstCard, "PlayFirstCard"},
                                        {ChooseSecondCard, "PlaySecondCard"},
                                        {ChooseThirdCard, "PlayThirdCard"},
                                        {ChooseFourthCard, "PlayFourthCard"}};
-  if (position < 1 || position > SeatsAtTable) RaiseIndexError(position, 1, SeatsAtTable);
   return choices[position - 1];
 }
 

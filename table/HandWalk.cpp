@@ -59,9 +59,8 @@ bool HandWalk::GoToNext(CardSet cards) {
   return !cards.IsEmpty();
 }
 
-bool HandWalk::GoToOneBefore(CardSet cards) {
+void HandWalk::GoToOneBefore(CardSet cards) {
   card_ = HighestOr(Below(cards, card_), HighestOr(cards, card_));
-  return !cards.IsEmpty();
 }
 
 void HandWalk::GoToNextOfSuit(Integer suit) {

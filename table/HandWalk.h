@@ -21,9 +21,10 @@ class HandWalk {
   void GoLeft();
   void GoRight();
 
-  // The next of these cards of the row, or the one before, round the end; false without any.
+  // The next of these cards of the row, or the one before, round the end; GoToNext returns false
+  // without any.
   bool GoToNext(CardSet cards);
-  bool GoToOneBefore(CardSet cards);
+  void GoToOneBefore(CardSet cards);
   void GoToNextOfSuit(Integer suit);
 
  private:

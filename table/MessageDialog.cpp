@@ -8,7 +8,6 @@
 namespace Parlino {
 namespace {
 
-constexpr int DialogWidth = 4500;
 constexpr int PromptWidth = 3375;
 constexpr int PromptTop = 450;
 constexpr int HeightAroundPrompt = 1140;
@@ -43,7 +42,6 @@ void PlaceFaces(MessageDialogView& dialog) {
 void LayOutMessageDialog(MessageDialogView& dialog, int promptHeight, int screenWidth,
                          int screenHeight) {
   dialog.Top = (screenHeight - dialog.Height) / 2;  // by the height of the showing before
-  dialog.Width = DialogWidth;
   dialog.Height = promptHeight + HeightAroundPrompt;
   dialog.Left = (screenWidth - dialog.Width) / 2;
   dialog.Label2Place = {90, PromptTop, PromptWidth, promptHeight};

@@ -14,7 +14,7 @@ bool Raise(TableEvents::Handler handler) {
 }
 
 bool RaiseOn(const Control& control, TableEvents::IndexHandler handler, int index) {
-  if (!control.Visible || !TableTakesInput() || handler == nullptr) return false;
+  if (!control.Visible || !TableTakesInput()) return false;
   handler(ToInteger(index));
   return true;
 }

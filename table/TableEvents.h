@@ -25,7 +25,7 @@ enum class MenuItem {
   ErasePoints,
 };
 
-// The handlers, bound once at the start of the program. An item without an action stays empty.
+// The handlers, bound once at the start of the program. Only a menu item may have none.
 struct TableEvents {
   using Handler = void (*)();
   using IndexHandler = void (*)(Integer index);

@@ -50,7 +50,6 @@ void OpenStatusBar() {
 void OpenTable() {
   Table = {};
   PictureBox& firstCard = Table.Cds[1];
-  firstCard.Exists = true;
   firstCard.Visible = true;
   firstCard.Picture = PictureBackUpright;
   firstCard.Place = FirstCardPlace;
@@ -61,7 +60,6 @@ void OpenTable() {
   }
   Table.LblInfo.Visible = true;
   Table.LblTrumps.Caption = "Trumps";
-  Table.imgtrumps.Exists = true;
   Table.imgtrumps.Visible = true;
   Table.LstCardsPlayed.Visible = true;
   OpenBiddingPanel();

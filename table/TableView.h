@@ -22,7 +22,6 @@ inline constexpr Integer PictureHearts = 60;
 inline constexpr Integer PictureClubs = 61;
 inline constexpr Integer PictureDiamonds = 62;
 inline constexpr Integer PictureSpades = 63;
-inline constexpr int PicturesInList = 63;
 
 // A point of the table in twips from the top left of the client area; 15 twips are a pixel.
 struct TablePoint {
@@ -49,8 +48,7 @@ struct BidButton : Label {
 };
 
 struct PictureBox : Control {
-  bool Exists = false;
-  Integer Picture = 0;       // 0 is no picture
+  Integer Picture = 0;       // 0 is no picture; a card's box is there once it has one
   Integer MousePointer = 0;  // 0 is the ordinary pointer
   std::string ToolTipText;
 };

@@ -74,7 +74,7 @@ TEST(StartUp, ReportsABadFileAndGoesOnWithItsFirstValues) {
     EXPECT_TRUE(Recorded(game.platform, example.report)) << example.what;
     EXPECT_EQ(PlayerName, "Player") << example.what;
     EXPECT_EQ(GamesPlayed, std::string_view(example.file) == "Points.dat" ? 0 : 7);
-    EXPECT_TRUE(Table.FrmMain.Visible && Table.Cds[52].Exists) << example.what;
+    EXPECT_TRUE(Table.FrmMain.Visible && Table.Cds[52].Picture != 0) << example.what;
     EXPECT_EQ(PauseMs, 150) << example.what;
     EXPECT_FALSE(game.platform.files.contains(example.file)) << "nothing is repaired at start-up";
   }

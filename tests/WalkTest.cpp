@@ -67,8 +67,7 @@ void Step(HandWalk& walk, char step) {
       EXPECT_TRUE(walk.GoToNext(CardsHumanMayPlay()));
       return;
     case 'd':
-      EXPECT_TRUE(walk.GoToOneBefore(CardsHumanMayPlay()));
-      return;
+      return walk.GoToOneBefore(CardsHumanMayPlay());
     default:
       return walk.GoToNextOfSuit(SuitOf(step));
   }
@@ -107,7 +106,7 @@ TEST_F(HandWalkTest, WaitsForTheDealAndFindsNoCardToPlayOutOfTurn) {
   walk.Follow();
   EXPECT_EQ(CardText(walk.Card()), "4D");
   EXPECT_FALSE(walk.GoToNext(CardsHumanMayPlay()));
-  EXPECT_FALSE(walk.GoToOneBefore(CardsHumanMayPlay()));
+  walk.GoToOneBefore(CardsHumanMayPlay());
   EXPECT_EQ(CardText(walk.Card()), "4D");
   walk.GoToLast();
   PlacePackDeal();

@@ -21,7 +21,6 @@ constexpr Indexed<std::string_view, 2, 14> RankNames = [] {
 
 std::string_view SuitNameOf(int suit) {
   static constexpr std::string_view names[] = {"Diamonds", "Clubs", "Hearts", "Spades"};
-  if (suit < Diamonds || suit > Spades) RaiseIndexError(suit, Diamonds, Spades);
   return names[suit - Diamonds];
 }
 

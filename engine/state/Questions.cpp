@@ -14,16 +14,14 @@ bool HoldsLedSuit(Integer seat) {
   return !HandOf(seat, LedSuit).IsEmpty();
 }
 
-bool MayPlayCard(Integer seat, Integer card, int position) {
-  if (Pack[card].Owner != seat) return false;
-  return position == 1 || Pack[card].Suit == LedSuit || !HoldsLedSuit(seat);
+bool MayPlayCard(Integer card) {
+  if (Pack[card].Owner != Player) return false;
+  return Leader == Player || Pack[card].Suit == LedSuit || !HoldsLedSuit(Player);
 }
 
 CardSet CardsHumanMayPlay() {
   if (PlayerTurn == False) return {};
-  return CardSet::OfPack([position = HumansPosition()](int card) {
-    return MayPlayCard(Player, static_cast<Integer>(card), position);
-  });
+  return CardSet::OfPack([](int card) { return MayPlayCard(static_cast<Integer>(card)); });
 }
 
 Integer WinnerOfTrick() {

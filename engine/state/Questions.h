@@ -21,9 +21,9 @@ int HumansPosition();
 // Whether the seat holds a card of the suit that was led.
 bool HoldsLedSuit(Integer seat);
 
-// Whether the seat holds `card` and may play it to the trick: any card at the head of a trick or
-// without a card of the led suit, otherwise a card of the led suit.
-bool MayPlayCard(Integer seat, Integer card, int position);
+// Whether the human holds `card` and may play it to the trick: any card when leading or without a
+// card of the led suit, otherwise a card of the led suit.
+bool MayPlayCard(Integer card);
 
 // The cards that the human may play now: none out of turn.
 CardSet CardsHumanMayPlay();

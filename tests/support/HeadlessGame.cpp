@@ -22,7 +22,7 @@ void ForEachWord(std::string_view text, Action action) {
 
 void PlayFirstLegalCard() {
   for (const Integer card : HandOf(Player))
-    if (MayPlayCard(Player, card, HumansPosition())) {
+    if (MayPlayCard(card)) {
       ClickCard(card);
       return;
     }

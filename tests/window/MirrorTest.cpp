@@ -67,7 +67,7 @@ TEST_F(Mirror, NoPictureIsMissingAtAnyRatio) {
     return image.pixelColor(image.width() / 2, image.height() / 2).alpha() > 0;
   };
   for (const qreal ratio : {1.0, 1.5, 2.0}) {
-    for (Integer picture = 1; picture <= PicturesInList; ++picture) {
+    for (Integer picture = 1; picture <= PictureSpades; ++picture) {
       EXPECT_TRUE(hasPixels(CardPicture(picture, ratio))) << picture;
       EXPECT_EQ(CardPicture(picture, ratio).deviceIndependentSize().toSize(), PictureSize(picture));
     }
