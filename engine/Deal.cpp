@@ -43,8 +43,8 @@ void DealTo(Integer seat) {
 
 }  // namespace
 
-// Rounding to the nearest whole number gives 0 and 52 half the chance of the others, so that the
-// Ace of Spades tends to be dealt late. Players know the game by that, and it stays.
+// Rounding to the nearest whole number gives 0 and 52 half the chance of the other numbers, so the
+// Ace of Spades tends to be dealt late. Players are used to that, so it stays.
 Integer GetSingleCard() {
   return ReportErrors("GetSingleCard", [] {
     while (true) {
@@ -67,8 +67,7 @@ void DealCards() {
   });
 }
 
-// The Player hears the card before it is sorted into the hand; the robots' cards are put away
-// first.
+// The Player hears a card before it is sorted into the hand; a robot's card is sorted first.
 void DealToPlayer() {
   DrawCardFor(Player);
   PlayCardSound();

@@ -6,13 +6,13 @@
 
 namespace Parlino {
 
-// A card number 1..52 that nobody holds, drawn at random. Needs at least one such card; leaves its
-// owner to the caller. Reports its own errors.
+// The number 1..52 of a random card that nobody holds. There must be such a card; the caller sets
+// its owner. Reports its own errors.
 Integer GetSingleCard();
 
 // Deals 13 cards to each seat, beginning with the seat after the dealer, and shows each card on its
 // way (two pauses of 25 ms a card). Sets GameInProgress, owners and TrumpSuit; leaves PauseMs at
-// 25. Reports its own errors; may leave by HandAbandoned or ProgramEnded.
+// 25. Reports its own errors; may throw HandAbandoned or ProgramEnded.
 void DealCards();
 
 // Each deals one card to its seat.
@@ -21,7 +21,7 @@ void DealToWest();
 void DealToNorth();
 void DealToEast();
 
-// Fixes TrumpSuit from Dealer, shows its picture and says who bids first. Reports its own errors.
+// Sets TrumpSuit by the dealer, shows its picture and says who bids first. Reports its own errors.
 void DisplayTrumps();
 
 }  // namespace Parlino

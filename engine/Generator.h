@@ -1,4 +1,4 @@
-// The random generator of the deal. It is our own, so that a seed repeats a game with every
+// The random generator of the deal. It is our own, so that a seed gives the same game with any
 // compiler and library.
 #pragma once
 
@@ -8,7 +8,7 @@ namespace Parlino {
 
 class Generator {
  public:
-  // Starts a sequence of its own for every seed.
+  // Starts the sequence that belongs to the seed.
   void Seed(std::uint64_t seed);
   // Mixes a value into the state. The state carries over, so that mixing in the same value twice
   // still gives different sequences.
@@ -22,7 +22,7 @@ class Generator {
   std::uint64_t state_ = 0;
 };
 
-// The generator that deals the cards. Its first state is set once, before the game begins.
+// The generator that deals the cards. It is seeded once, before the game begins.
 inline Generator DealGenerator;
 
 // Mixes the platform's clock into DealGenerator.

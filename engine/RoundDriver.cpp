@@ -32,7 +32,7 @@ void MakeTableReady() {
   Hide(Table.CmdDontShow);
   Hide(Table.LblIntro);
   Hide(Table.lblTitle);
-  Show(Table.LblInfo);  // the last note of the hand before has hidden it
+  Show(Table.LblInfo);  // hidden by the last note of the previous hand
 }
 
 void AskHumanForBid() {
@@ -80,7 +80,7 @@ void DealAndPlayHand() {
   LeadNextTrick(Leader);
 }
 
-// A hand that stopped in the middle must not leave the human's turn or the bidding open behind it.
+// A hand that is cut short must not leave the human's turn or the bidding panel open.
 void CloseHumansTurn() {
   Hide(Table.FramBids);
   PlayerTurn = False;
@@ -101,7 +101,7 @@ void DealNewRound() {
     try {
       handWanted = ReportErrors("DealNewRound", [] {
         DealAndPlayHand();
-        return true;  // every other answer has ended the program
+        return true;  // any other answer ends the program
       });
       if (!handWanted && TrickNumber == TricksInHand) TellHandIsOver();
     } catch (const HandAbandoned&) {

@@ -12,7 +12,7 @@ constexpr Integer NormalPauseMs = 150;
 constexpr TablePoint WestGreetingPlace{1815, 2400};
 constexpr TablePoint EastGreetingPlace{8500, 2400};
 
-// The first values are in force before the file is read, so that they stay when it cannot be.
+// The first values are set before the file is read, so that they remain if it cannot be.
 void ReadOrUseFirst(std::string_view file) {
   UseFirstRecord(file);
   ReportErrors("Form_Load", [file] { ReadRecord(file); });

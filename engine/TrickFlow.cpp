@@ -24,9 +24,9 @@ void CountTrick() {
   SetCaption(Table.LblWEMade, {TheirTricks()});
 }
 
-// A sum that would leave its range is reported and the value stays as it is; the hand is settled
-// all the same, for a player who has come that far wants to go on. The report is the round
-// driver's, which stands for everything that happens in a hand.
+// A sum that would overflow is reported and the value stays as it is; the hand is settled all the
+// same, because a player who has come that far wants to go on. The report names the round driver,
+// as it does for everything in a hand without a report of its own.
 void AddTo(Integer& total, int amount) {
   ReportErrors("DealNewRound", [&total, amount] { total = ToInteger(total + amount); });
 }
@@ -77,9 +77,8 @@ std::string GameOverPrompt(bool won) {
                          " against your team score of  ", OurPoints, ending});
 }
 
-// The files are written before the answer as well, for the desktop may end the program while the
-// dialog waits. Whoever wants to leave is asked again when the game could not be counted on the
-// disk.
+// The files are also written before the answer, because the desktop may end the program while the
+// dialog is open. A player who wants to leave is asked again if the files could not be written.
 void EndGame() {
   GameInProgress = False;
   const bool won = OurPoints > TheirPoints;

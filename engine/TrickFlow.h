@@ -6,17 +6,17 @@
 namespace Parlino {
 
 // Plays the tricks of a hand, the first led by `leader`, and settles the hand. Returns when the
-// player wants another hand; may leave by HandAbandoned or ProgramEnded. Errors pass to the caller.
+// player wants another hand; may throw HandAbandoned or ProgramEnded. Errors pass to the caller.
 void LeadNextTrick(Integer leader);
 
-// Plays one trick led by `leader`: the four turns, the winner, the counters, the trick pile. Leader
-// becomes the winner.
+// Plays one trick led by `leader`: the four turns, the winner, the counters, the trick pile. The
+// winner becomes Leader.
 void PlayTrick(Integer leader);
 
 // Sets TrickWinner: the highest trump in the trick, or else the highest card of the led suit.
 void GetTrickWinner();
 
-// Tells the player that the hand is over, where an error kept it from leading to a further one.
+// Tells the player that the hand is over when an error keeps the next one from starting.
 void TellHandIsOver();
 
 }  // namespace Parlino

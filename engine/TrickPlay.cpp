@@ -11,8 +11,8 @@ namespace {
 
 constexpr Integer NoteMs = 500;
 
-// Set while the follow-suit note is up: further wrong clicks add nothing to it, and so cannot pile
-// up note inside note.
+// Set while the follow-suit note is shown. Further wrong clicks are then ignored; otherwise each
+// would show another note inside the pause of the one before.
 bool followSuitNoteIsUp = false;
 
 void ShowFollowSuitNote() {
@@ -32,7 +32,7 @@ void PutCardOnTable(Integer seat, Integer card) {
 }
 
 void PlayHumansCard(Integer card) {
-  PlayerTurn = False;  // the pause below still lets clicks in: this card is the one of the turn
+  PlayerTurn = False;  // clicks still arrive in the pause below, but the turn has its card
   RecordInTrick(HumansPosition(), Player, card);
   PutCardOnTable(Player, card);
   PlayerHasPlayed = True;
@@ -57,7 +57,7 @@ void TakeHumansTurn() {
 void Cds_Click(Integer card) {
   ReportErrors("Cds_Click", [card] {
     if (Pack[card].Owner != Player || PlayerTurn == False || GameInProgress == False) return;
-    // Asked for what it leaves behind: whoever cannot follow suit gets the ordinary pause.
+    // Asked for its side effect: it resets the pause of a player who cannot follow suit.
     if (Leader != Player) HasStartSuitQuery(Player);
     if (MayPlayCard(card))
       PlayHumansCard(card);

@@ -10,7 +10,7 @@
 
 namespace {
 
-// The clock comes in too: a machine may have no better source of chance than its own generator.
+// The clock is mixed in too, in case random_device is only a generator with a fixed seed.
 std::uint64_t FreshSeed() {
   std::random_device chance;
   const auto now = std::chrono::system_clock::now().time_since_epoch().count();
@@ -21,7 +21,7 @@ std::uint64_t FreshSeed() {
 }  // namespace
 
 int main(int, char* arguments[]) {
-  std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is an error of its saving
+  std::signal(SIGXFSZ, SIG_IGN);  // let a file that may not grow fail to be saved instead
   int onlyTheProgramsName = 1;
   const QApplication application(onlyTheProgramsName, arguments);
   QGuiApplication::setDesktopFileName("org.parlino.Parlino");

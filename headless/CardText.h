@@ -1,4 +1,4 @@
-// The text form of a card, for failures of tests.
+// The text form of a card, for test failures.
 #pragma once
 
 #include <string>

@@ -1,5 +1,5 @@
 // The platform without a window: time is virtual, files live in memory, and a script plays the
-// person. A pause takes no time of the real clock and goes through the same states as at the table.
+// person. A pause takes no real time but goes through the same states as at the table.
 #pragma once
 
 #include <cstdint>
@@ -13,29 +13,29 @@
 
 namespace Parlino {
 
-// Thrown when the game waits for the person and the script has nothing to say any more. It is no
-// std::exception, so that no error report of the game takes it for one of its own.
+// Thrown when the game waits for the person and the script has nothing left to do. It is not a
+// std::exception, so that the game's error reports let it pass.
 struct ScriptHasNothingToSay {};
 
 class HeadlessPlatform : public Platform {
  public:
-  // Begins with the first data files of a new game. Ticks and clock start at fixed values, so that
-  // a run repeats.
+  // Begins with the data files of a new game. Ticks and clock start at fixed values, so that runs
+  // can be repeated.
   HeadlessPlatform();
 
-  // Asked at every chance to process events, with the time the game is ready to wait. It looks at
-  // the table as a person would and raises events through the table's doors.
+  // Called whenever the game processes events, with the time for which it is ready to wait. It
+  // looks at the table as a person would and raises events through the table's doors.
   std::function<void(std::uint32_t atMostMs)> script = [](std::uint32_t) {};
-  // So often the game may wait in vain before the script is held to be at its end.
+  // How often the game may wait in vain before the script counts as finished.
   int mostIdleCalls = 100;
-  // Answers a text-input box; without one the answer is OK with the default.
+  // Answers a text-input box; if it is not set, the default is accepted with OK.
   std::function<std::string(std::string_view prompt, std::string_view title,
                             std::string_view defaultAnswer)>
       answerInputBox;
-  // Sees each plain message box.
+  // Called for each plain message box.
   std::function<void(std::string_view text)> onMsgBox = [](std::string_view) {};
 
-  // By the name they are asked for, a plain name or a full path.
+  // By the name under which they are asked for, a plain name or a full path.
   std::map<std::string, std::string, std::less<>> files;
   bool filesCanBeWritten = true;
   std::string programFolder = "/parlino/";
@@ -50,7 +50,7 @@ class HeadlessPlatform : public Platform {
   std::uint32_t registryRights = RegistryFullAccess;
   bool registryRaises = false;  // when a value is read
 
-  // What was shown and heard, in order, a line each; kept only while `keepsRecord` is set.
+  // What was shown and heard, in order, one line each; kept only while `keepsRecord` is set.
   std::vector<std::string> record;
   bool keepsRecord = false;
 
@@ -80,7 +80,7 @@ class HeadlessPlatform : public Platform {
   std::optional<RegistryValue> ReadRegistryValue(RegistryKey key, std::string_view name,
                                                  std::span<char> buffer) override;
   void CloseRegistryKey(RegistryKey key) override;
-  // A program can be started when it is one of the files.
+  // A program can be started if it is one of the files.
   void StartProgram(std::string_view path) override;
 
  private:

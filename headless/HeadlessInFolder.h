@@ -1,4 +1,4 @@
-// The platform without a window whose files lie in a folder of the disk.
+// The platform without a window, with its files in a folder on the disk.
 #pragma once
 
 #include <filesystem>

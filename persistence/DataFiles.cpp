@@ -9,8 +9,8 @@
 namespace Parlino {
 namespace {
 
-// A record is parsed into locals first: a fault in its last field must not leave its first one in
-// the game.
+// A record is parsed into locals first: an error in its last field must not leave the first one in
+// the game state.
 void TakeNames(std::string_view record) {
   RecordReader reader(record);
   Indexed<std::string, 0, 3> names;

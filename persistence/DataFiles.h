@@ -1,5 +1,5 @@
-// The four data files of the program's folder, each one record: names, statistics, the saved game
-// and the wish not to be welcomed.
+// The four data files in the program's folder, each a single record: names, statistics, the saved
+// game, and whether the welcome panel is hidden.
 #pragma once
 
 #include <string_view>
@@ -30,18 +30,20 @@ inline constexpr FirstRecord FirstRecords[] = {
 // malformed one is first set aside under another name.
 void ReadRecord(std::string_view file);
 
-// Puts what the file would hold in a new game into the game state.
+// Sets the game state to what the file holds when the game is new.
 void UseFirstRecord(std::string_view file);
 
-// Each replaces its file by the values of the game state and returns whether it could. A file that
-// cannot be written is reported to the player in a plain message box; the values stay as they are.
+// Each replaces its file with the values of the game state and returns whether that succeeded. A
+// file that cannot be written is reported to the player in a plain message box; the values stay as
+// they are.
 bool SaveGame();
 bool SavePoints();
 bool SaveNames();
 bool SaveWelcome();
 
-// Writes what SavePoints and SaveGame will write when the end of a game has been answered, while
-// its totals still stand. Says nothing when it cannot: the saving after the answer does.
+// Writes what SavePoints and SaveGame will write once the player has answered the dialog at the end
+// of a game; until then the totals stay. A failure is not reported here: the saving after the
+// answer reports it.
 void SaveEndedGame();
 
 }  // namespace Parlino

@@ -26,7 +26,7 @@ bool IsControl(char character) {
 }
 
 // Length in bytes of a line or paragraph separator or a C1 control character that `text` ends with,
-// 0 without one.
+// 0 if there is none.
 std::size_t WideControlLength(std::string_view text) {
   if (text.ends_with("\u2028") || text.ends_with("\u2029")) return 3;
   if (text.size() < 2 || text[text.size() - 2] != '\xC2') return 0;
@@ -125,8 +125,8 @@ RecordWriter& RecordWriter::AddFlag(Flag flag) {
   return *this;
 }
 
-// What has been kept so far is looked at again after every byte: where something is taken out of
-// text that is no UTF-8, what stood round it may form the next thing to take out.
+// The text kept so far is checked again after every byte: in text that is not UTF-8, removing
+// something can join what stood on either side of it into the next thing to remove.
 std::string KeepStorable(std::string_view text) {
   std::string kept;
   for (const char character : text) {

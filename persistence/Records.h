@@ -1,5 +1,5 @@
-// The text of a data file: one line of comma-separated fields. Texts stand in double quotes, whole
-// numbers in plain digits, flags as #TRUE# or #FALSE#.
+// The text of a data file: one line of comma-separated fields. Text is in double quotes, whole
+// numbers are plain digits, flags are #TRUE# or #FALSE#.
 #pragma once
 
 #include <string>
@@ -9,8 +9,8 @@
 
 namespace Parlino {
 
-// Takes the fields of a record one after the other. Every call raises a GameError that says what is
-// wrong when the next field is missing or is not of the kind asked for.
+// Takes the fields of a record in turn. Every call raises a GameError that says what is wrong when
+// the next field is missing or is not of the kind asked for.
 class RecordReader {
  public:
   explicit RecordReader(std::string_view record);
@@ -45,7 +45,7 @@ class RecordWriter {
 };
 
 // The text without what a record cannot hold: double quotes, control characters and line ends.
-// Everything else stays, commas, accents and length. Text is UTF-8.
+// Everything else stays, commas and accents too, and text of any length. Text is UTF-8.
 std::string KeepStorable(std::string_view text);
 
 }  // namespace Parlino

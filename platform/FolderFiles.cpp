@@ -16,7 +16,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Between the name of a record and the random end of the name of its temporary file.
+// Stands between a record's name and the random end of its temporary file's name.
 constexpr std::string_view TemporaryMark = ".saving-";
 
 [[noreturn]] void RaiseSystemError(std::string_view fileName, std::string_view action, int number) {
@@ -37,7 +37,7 @@ class Descriptor {
   }
   [[nodiscard]] int Number() const { return number_; }
   [[nodiscard]] bool IsOpen() const { return number_ >= 0; }
-  // Closes it and says whether the system could.
+  // Closes it and returns whether that succeeded.
   bool Close() { return ::close(std::exchange(number_, -1)) == 0; }
 
  private:
@@ -55,7 +55,8 @@ bool WriteAll(int descriptor, std::string_view content) {
   return true;
 }
 
-// A disk that cannot flush a file says so by EINVAL; it has taken the content all the same.
+// EINVAL means that this kind of file system cannot flush a file; the content is written all the
+// same.
 bool FlushFile(int descriptor) {
   return ::fsync(descriptor) == 0 || errno == EINVAL;
 }
@@ -65,9 +66,9 @@ void FlushFolder(const fs::path& folder) {
   if (descriptor.IsOpen()) ::fsync(descriptor.Number());
 }
 
-// Removes what a program that was killed while it saved has left beside the record. A temporary
-// file younger than an hour may be the save of another game in this folder. Times are those of the
-// record's own disk; what cannot be removed stays until the next save.
+// Removes the temporary files of programs that were killed while saving the record. One less than
+// an hour old may belong to another game that is saving in this folder. Ages are measured against
+// the record, which is on the same disk; what cannot be removed stays until the next save.
 void RemoveAbandoned(const fs::path& path) {
   constexpr auto longestSave = std::chrono::hours(1);
   const std::string beginning = path.filename().string().append(TemporaryMark);
@@ -89,7 +90,7 @@ bool IsThere(std::string_view fileName, const fs::path& path, std::string_view a
 }
 
 std::string ReadWhole(std::string_view fileName, const fs::path& path, std::size_t atMost) {
-  // Without waiting: there may be a pipe of that name that nobody writes into.
+  // Without waiting, in case this is a pipe that nobody writes to.
   const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
   if (!file.IsOpen()) RaiseSystemError(fileName, "read", errno);
   struct stat kind {};
@@ -111,12 +112,12 @@ std::string ReadWhole(std::string_view fileName, const fs::path& path, std::size
 // Writes the content to a file beside the record and flushes it to the disk. Returns its path.
 std::string WriteTemporary(std::string_view fileName, const fs::path& path,
                            std::string_view content) {
-  // A name of its own for every writer: two games in one folder must not share a temporary file.
+  // Each writer needs a name of its own: two games in one folder must not share a temporary file.
   std::string temporary = path.string().append(TemporaryMark).append("XXXXXX");
   Descriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
   if (!file.IsOpen()) RaiseSystemError(fileName, "written", errno);
   constexpr mode_t readableByAll = 0644;
-  static_cast<void>(::fchmod(file.Number(), readableByAll));  // not every disk knows permissions
+  static_cast<void>(::fchmod(file.Number(), readableByAll));  // some disks have none
   const bool written = WriteAll(file.Number(), content) && FlushFile(file.Number()) && file.Close();
   if (written) return temporary;
   const int number = errno;
@@ -149,7 +150,7 @@ void FolderFiles::Replace(std::string_view fileName, std::string_view content) {
     throw;
   }
   if (unread != unread_.end()) unread_.erase(unread);
-  // Makes the rename outlast a power cut; the record is whole either way.
+  // Makes the rename survive a power cut; the record is complete either way.
   FlushFolder(path.parent_path());
   RemoveAbandoned(path);
 }
@@ -162,8 +163,8 @@ void FolderFiles::SetAside(std::string_view fileName) {
   unread_.erase(unread);
 }
 
-// A second name for the file leaves no moment in which it has none and takes no name away from
-// another game. A disk that knows no second names renames it.
+// A hard link leaves the file under a name at every moment and never replaces another game's file.
+// On a file system without hard links the file is renamed.
 bool FolderFiles::KeepAside(std::string_view fileName, std::string_view action) const {
   const fs::path path = folder_ / fileName;
   const std::string aside = path.string() + ".bad";

@@ -1,6 +1,5 @@
-// The files of one folder, read whole and replaced whole; a full path in place of a name is taken
-// as it stands. Failures raise a GameError with the system's number and a description that names
-// the file.
+// The files of one folder, read whole and replaced whole; a full path instead of a name is used as
+// it is. Failures raise a GameError with the system's number and a description that names the file.
 #pragma once
 
 #include <cstddef>
@@ -12,8 +11,8 @@
 
 namespace Parlino {
 
-// No record of ours comes near this, in bytes; a longer file is not read into memory to find that
-// out. A document may be longer, yet not without end.
+// In bytes. No record of ours comes near the first limit, so a longer file is not read into memory;
+// a document may be longer, but not of any length.
 inline constexpr std::size_t LongestRecord = 1 << 20;
 inline constexpr std::size_t LongestDocument = 1 << 26;
 
@@ -27,22 +26,22 @@ class FolderFiles {
   [[nodiscard]] std::string Read(std::string_view fileName, std::size_t atMost = LongestRecord);
 
   // Writes a temporary file in the same folder, flushes it to the disk and renames it over the old
-  // one, so that whatever happens the file is the old or the new one whole. An old one that the
-  // last Read or SetAside failed on is first set aside: nobody has seen what is in it. Raises for
-  // content too long to be read again.
+  // one, so that whatever happens the file is either the old or the new one, complete. If the last
+  // Read or SetAside of the old one failed, it is first set aside, because nothing is known about
+  // its content. Raises for content too long to be read again.
   void Replace(std::string_view fileName, std::string_view content);
 
-  // Gives the file a free name: ".bad" is added, or ".bad2", ".bad3" and so on.
+  // Renames the file to a free name: ".bad" is added, or ".bad2", ".bad3" and so on.
   void SetAside(std::string_view fileName);
 
   [[nodiscard]] bool Exists(std::string_view fileName) const;
 
  private:
-  // Returns whether the file has its old name as well.
+  // Returns whether the file still has its old name too.
   bool KeepAside(std::string_view fileName, std::string_view action) const;
 
   std::filesystem::path folder_;
-  std::set<std::string, std::less<>> unread_;  // names of files not read though asked for
+  std::set<std::string, std::less<>> unread_;  // names of files whose last reading failed
 };
 
 }  // namespace Parlino

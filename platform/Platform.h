@@ -1,5 +1,5 @@
-// The seam to the outside world: everything the game needs that is not the game. The window
-// implements it once, the headless platform with virtual time a second time.
+// The seam between the game and the outside world: everything that the game needs and is not part
+// of it. There are two implementations: the window, and the headless platform with virtual time.
 #pragma once
 
 #include <cstdint>
@@ -13,10 +13,10 @@ namespace Parlino {
 // The title of the table window and of every plain box.
 inline constexpr std::string_view ApplicationTitle = "Parlino";
 
-// A length of time for ProcessEvents that ends only with an event.
+// A time for ProcessEvents that only an event ends.
 inline constexpr std::uint32_t Forever = 0xFFFFFFFF;
 
-// The windows of the program, in the order in which the end of the program closes them.
+// The windows of the program, in the order in which they are closed when it ends.
 enum class WindowName { frmAbout, MFormDeluxe, FrmMain, frmHelp };
 
 struct ScreenSize {
@@ -24,7 +24,7 @@ struct ScreenSize {
   int height;  // twips
 };
 
-// The registry of the operating system, in its own numbers.
+// Numbers of the operating system's registry.
 inline constexpr std::uint32_t RegistryLocalMachine = 0x80000002;  // a root
 inline constexpr std::uint32_t RegistryFullAccess = 0xF003F;       // rights to a key
 inline constexpr std::uint32_t RegistryString = 1;                 // the type of a value
@@ -45,7 +45,7 @@ class Platform {
 
   // Shows what has changed in the table model, sleeps until an event arrives or `atMostMs`
   // milliseconds have passed, and raises the table's events that have arrived. Handlers run inside
-  // this call, so it may leave by HandAbandoned or ProgramEnded.
+  // this call, so it may throw HandAbandoned or ProgramEnded.
   virtual void ProcessEvents(std::uint32_t atMostMs) = 0;
 
   // Milliseconds since some moment in the past; wraps after 2^32.
@@ -53,11 +53,11 @@ class Platform {
   // Seconds since midnight, with fractions.
   virtual double ClockSeconds() = 0;
 
-  // Starts a sound file of the program's folder and returns at once. A sound still playing is cut
-  // off; a sound that cannot be played is passed over.
+  // Starts a sound file from the program's folder and returns at once. A sound still playing is cut
+  // off; a sound that cannot be played is skipped.
   virtual void StartSound(std::string_view fileName) = 0;
 
-  // Asks for a line of text and waits. OK answers with the text, Cancel with empty text.
+  // Asks for a line of text and waits. Returns the text on OK, empty text on Cancel.
   virtual std::string InputBox(std::string_view prompt, std::string_view title,
                                std::string_view defaultAnswer) = 0;
   // A plain message box with an OK button; `critical` adds the critical-error icon. Waits.
@@ -67,22 +67,22 @@ class Platform {
   virtual int PromptHeight(std::string_view prompt, int width) = 0;
   virtual ScreenSize Screen() = 0;
 
-  // Closes a window for good, without a question; a window that was never shown is passed over.
+  // Closes a window for good, without asking; a window that was never shown is ignored.
   virtual void CloseWindow(WindowName window) = 0;
 
   // The full path of the program's folder, with the separator of the platform at its end.
   virtual std::string ProgramFolder() = 0;
 
-  // Files: a plain name is one of the program's folder, a full path is taken as it stands. Failures
+  // Files: a plain name is a file in the program's folder, a full path is used as it is. Failures
   // raise a GameError whose number is the system's and whose description names the file.
   virtual std::string ReadFile(std::string_view fileName) = 0;
   // The same for a file that may be much longer than a record.
   virtual std::string ReadDocument(std::string_view fileName) = 0;
-  // Replaces the file whole or leaves it as it was. A file that could not be read before is set
+  // Replaces the file completely or leaves it as it was. A file that could not be read is first set
   // aside.
   virtual void ReplaceFile(std::string_view fileName, std::string_view content) = 0;
-  // Renames the file so that nothing overwrites it: ".bad" is added, and a number where that name
-  // is taken.
+  // Renames the file so that nothing overwrites it: ".bad" is added, and a number if that name is
+  // taken.
   virtual void SetFileAside(std::string_view fileName) = 0;
   virtual bool FileExists(std::string_view fileName) = 0;
 
@@ -105,7 +105,7 @@ class Platform {
   virtual void StartProgram(std::string_view path) = 0;
 };
 
-// The platform in use. Set once, before anything else of the game runs.
+// The platform in use. Set once, before the rest of the game runs.
 inline Platform* PlatformInUse = nullptr;
 
 inline void UsePlatform(Platform& platform) {

@@ -22,7 +22,7 @@ struct Picture {
   char32_t Character;
 };
 
-// Those met in documents: bullets, the suits of cards, arrows and signs of arithmetic.
+// The symbols found in documents: bullets, card suits, arrows and arithmetic signs.
 constexpr Picture Pictures[] = {
     {SymbolSet::Symbol, 0xA3, 0x2264},    {SymbolSet::Symbol, 0xA7, 0x2663},
     {SymbolSet::Symbol, 0xA8, 0x2666},    {SymbolSet::Symbol, 0xA9, 0x2665},
@@ -72,7 +72,7 @@ char32_t FromByte(unsigned char byte, SymbolSet symbols, bool isMarker) {
 }
 
 char32_t FromNumber(int number, SymbolSet symbols, bool isMarker) {
-  // Writers count in 16 bits with a sign; some write what is above them all the same.
+  // Writers use signed 16-bit numbers, though some write larger ones.
   const auto character = static_cast<char32_t>(number < 0 ? number + 0x10000 : number);
   if (character < 0xA0) return FromCodePage(static_cast<unsigned char>(character));
   if (character == LineSeparator || character == ParagraphSeparator) return '\n';

@@ -22,7 +22,7 @@ std::optional<Paragraph> DocumentBuilder::TakeParagraph(const Layout& layout) {
   return text_.Take(layout);
 }
 
-// Some writers leave the mark of a table away from paragraphs between a row's plan and its end.
+// Some writers omit the mark of a table from paragraphs between a row's plan and its end.
 void DocumentBuilder::EndParagraph(const Layout& layout) {
   std::optional<Paragraph> paragraph = TakeParagraph(layout);
   if (!paragraph) return;

@@ -1,5 +1,5 @@
-// Puts the document together: text into paragraphs, those into cells, rows and tables or into the
-// document itself.
+// Puts the document together: text into paragraphs, and these into cells, rows and tables or
+// directly into the document.
 #pragma once
 
 #include <cstddef>
@@ -18,24 +18,24 @@ class DocumentBuilder {
   // Looks fonts, colours and styles up in `tables`, which must outlive it.
   explicit DocumentBuilder(const HeaderTables& tables) : text_(tables), row_(tables) {}
 
-  // Text of the paragraph that is being built, which goes on in a new one when it has become too
-  // long, and of the bullet or number in front of it.
+  // Add to the text of the current paragraph, which continues in a new one when it becomes too
+  // long, and to the bullet or number in front of it.
   void Add(char32_t character, const Look& look, const Layout& layout);
   void AddToMarker(char32_t character) { text_.AddToMarker(character); }
   void ChangePlan(const ControlWord& word, std::optional<int> number);
 
-  // End what is being built; the layout is that of the paragraph that ends with it.
+  // End what is being built; `layout` is that of the paragraph that ends with it.
   void EndParagraph(const Layout& layout);
   void EndCell(const Layout& layout);
   void EndRow(const Layout& layout);
 
-  // Whether the paragraph that is being built has any text.
+  // Whether the current paragraph has any text.
   [[nodiscard]] bool HasText() const { return !text_.IsEmpty(); }
 
-  // Whether the document is as large as any may become; what else is added may be lost.
+  // Whether the document has reached the largest size allowed; anything else added may be lost.
   [[nodiscard]] bool IsFull() const { return isFull_ || text_.IsFull(); }
 
-  // The document, with what was not ended.
+  // The document, including what has not been ended.
   Document Take(const Layout& layout);
 
  private:

@@ -1,4 +1,4 @@
-// The formatting in force at a place of the source, by the numbers the source uses.
+// The formatting in force at a place in the source, in the numbers of the source.
 #pragma once
 
 #include <optional>
@@ -35,8 +35,8 @@ struct Layout {
   bool InTable = false;
 };
 
-// Both change the formatting as the word says and tell whether the word is one of theirs. Numbers
-// out of reason are brought to the nearest reasonable ones.
+// Both change the formatting as the word says and return whether the word is one of theirs. Numbers
+// out of range are clamped.
 bool ChangeLook(Look& look, const ControlWord& word, std::optional<int> number);
 bool ChangeLayout(Layout& layout, const ControlWord& word, std::optional<int> number);
 

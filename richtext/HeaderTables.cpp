@@ -12,7 +12,7 @@ constexpr int SymbolCharsetNumber = 2;
 
 const Font Nameless;
 
-// Old writers tell a heading by the name of its style alone.
+// Old writers mark a heading only by the name of its style.
 int HeadingFromName(std::string_view name) {
   constexpr std::string_view Beginning = "heading ";
   if (name.size() != Beginning.size() + 1) return 0;

@@ -1,5 +1,5 @@
-// The tables in front of the text: fonts, colours, and which styles are headings. Each entry ends
-// at its semicolon, whatever groups stand around it.
+// The tables before the text: fonts, colours, and which styles are headings. Each entry ends at its
+// semicolon, whatever groups it is in.
 #pragma once
 
 #include <map>
@@ -14,19 +14,19 @@
 namespace Parlino::RichText {
 
 struct Font {
-  std::string Name;  // "" for a font of symbols: its text has become ordinary characters
+  std::string Name;  // "" for a symbol font: its text is translated
   SymbolSet Symbols = SymbolSet::None;
 };
 
 class HeaderTables {
  public:
-  // Takes a word or a character that stands in the table `which`.
+  // Take a word or a character of the table `which`.
   void TakeWord(Destination which, const ControlWord& word, std::optional<int> number);
   void TakeCharacter(Destination which, char32_t character);
   void SetDefaultFont(int number) { defaultFont_ = number; }
 
-  // What stands under a number. A negative number is the default font; one that is not in its table
-  // is a font without a name, no colour, no heading.
+  // The entry with a number. A negative number stands for the default font; one that is not in its
+  // table stands for a font without a name, no colour, no heading.
   [[nodiscard]] const Font& FontAt(int number) const;
   [[nodiscard]] std::optional<Colour> ColourAt(int number) const;
   [[nodiscard]] int HeadingOfStyle(int number) const;
@@ -51,7 +51,7 @@ class HeaderTables {
   int defaultFont_ = 0;
 };
 
-// The rank of the heading from the number behind \outlinelevel, 0 for none.
+// The rank of the heading from the number after \outlinelevel, 0 for none.
 int HeadingFromOutline(int level);
 
 }  // namespace Parlino::RichText

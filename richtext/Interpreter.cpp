@@ -53,7 +53,7 @@ bool Interpreter::OpenGroup() {
   return true;
 }
 
-// The outermost state is left as it is: it lays out a last paragraph that nothing ends.
+// The outermost state is kept: it formats a last paragraph that is never ended.
 bool Interpreter::CloseGroup() {
   PutBroken();
   isOptional_ = false;
@@ -120,7 +120,7 @@ void Interpreter::ObeyInBody(const ControlWord& word, std::optional<int> number)
   }
 }
 
-// A hidden end leaves the text on both sides of it in one paragraph.
+// A hidden paragraph end leaves the text on either side in one paragraph.
 void Interpreter::EndParagraph() {
   fallbackLeft_ = 0;
   PutBroken();
@@ -180,7 +180,8 @@ bool Interpreter::IsFallback() {
   return true;
 }
 
-// Puts a character where the group's text goes; the halves of a pair are put as one character.
+// Puts a character where the group's text goes; the two halves of a surrogate pair become one
+// character.
 void Interpreter::Put(char32_t character) {
   if (highSurrogate_ != 0 && IsLowSurrogate(character)) {
     const char32_t high = std::exchange(highSurrogate_, 0);
@@ -201,7 +202,7 @@ void Interpreter::Put(char32_t character) {
   }
 }
 
-// Half of a pair that did not meet its other half.
+// Replaces the first half of a pair whose second half did not follow.
 void Interpreter::PutBroken() {
   if (std::exchange(highSurrogate_, 0) != 0) Put(Unreadable);
 }

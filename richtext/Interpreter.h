@@ -16,11 +16,11 @@ class Interpreter {
  public:
   // Takes tokens until the outermost group ends or the document is full; false from then on.
   bool Take(const Token& token);
-  // The document as far as it was described.
+  // The document described so far.
   Document Finish();
 
  private:
-  // What a group changes for itself only.
+  // What a group may change and its end restores.
   struct State {
     Look Letters;
     Layout Lines;
@@ -50,10 +50,10 @@ class Interpreter {
   DocumentBuilder builder_{tables_};
   State state_;
   std::vector<State> outerStates_;
-  std::size_t deeperGroups_ = 0;  // open beyond those with a state of their own
-  bool isOptional_ = false;       // the next word, by the mark before it
-  int fallbackLeft_ = 0;          // characters to pass over behind a \u
-  char32_t highSurrogate_ = 0;    // that waits for its other half
+  std::size_t deeperGroups_ = 0;  // open, but too deep to have a state of their own
+  bool isOptional_ = false;       // whether the next word is marked as optional
+  int fallbackLeft_ = 0;          // characters to skip after a \u
+  char32_t highSurrogate_ = 0;    // waiting for its other half
 };
 
 }  // namespace Parlino::RichText

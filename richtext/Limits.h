@@ -1,5 +1,5 @@
-// How much of a document is read, and how far its numbers go. The bounds are beyond what a person
-// reads in a window and keep a hostile file from costing more than it is worth.
+// How much of a document is read, and the range of its numbers. The limits are beyond anything that
+// people read in a window, and keep a hostile file from using up memory and time.
 #pragma once
 
 #include <algorithm>
@@ -7,20 +7,20 @@
 
 namespace Parlino::RichText {
 
-// Reading ends when one of these is passed, and the document is cut.
+// Reading ends when one of these is exceeded, and the document is cut off there.
 inline constexpr std::size_t MostCharacters = 2'000'000;
 inline constexpr std::size_t MostRuns = 200'000;
-inline constexpr std::size_t MostParagraphs = 50'000;  // those in cells counted too
+inline constexpr std::size_t MostParagraphs = 50'000;  // including those in cells
 
-// A paragraph that passes one of these goes on in a new one: toolkits take time with the square of
-// a paragraph's length.
+// A paragraph that exceeds one of these continues in a new one: toolkits take time proportional to
+// the square of a paragraph's length.
 inline constexpr std::size_t MostCharactersInParagraph = 10'000;
 inline constexpr std::size_t MostRunsInParagraph = 1'000;
 
-// What is beyond these is passed over.
+// What exceeds these is ignored.
 inline constexpr std::size_t MostColumns = 64;
 inline constexpr std::size_t MostTabs = 32;
-inline constexpr std::size_t MostTableEntries = 1'024;  // of fonts, colours, styles each
+inline constexpr std::size_t MostTableEntries = 1'024;  // of fonts, colours and styles each
 inline constexpr std::size_t MostNameCharacters = 64;
 inline constexpr std::size_t MostNestedGroups = 256;
 
@@ -31,7 +31,7 @@ inline constexpr int SmallestHalfPoints = 2;
 inline constexpr int LargestHalfPoints = 800;
 inline constexpr int DeepestHeading = 9;
 
-// A distance to either side, the edge of a cell, and a distance that cannot be negative.
+// Clamp a distance to either side, the edge of a cell, and a distance that cannot be negative.
 inline int ToTwips(int number) {
   return std::clamp(number, -FurthestTwips, FurthestTwips);
 }

@@ -48,7 +48,7 @@ bool ParagraphBuilder::IsLong() const {
          paragraph_.Runs.size() >= MostRunsInParagraph;
 }
 
-// Looks that differ in numbers only go on in the same run.
+// Looks that differ only in the numbers of the source share a run.
 bool ParagraphBuilder::BeginRun(const Look& look) {
   Style style = StyleOf(look);
   if (paragraph_.Runs.empty() || !(paragraph_.Runs.back().Look == style)) {

@@ -1,4 +1,4 @@
-// Gathers the text of one paragraph after the other.
+// Builds one paragraph after another.
 #pragma once
 
 #include <cstddef>
@@ -22,9 +22,10 @@ class ParagraphBuilder {
   Paragraph Take(const Layout& layout);
 
   [[nodiscard]] bool IsEmpty() const { return paragraph_.Runs.empty() && marker_.empty(); }
-  // Whether the paragraph is as long as one may become; the next character belongs to a new one.
+  // Whether the paragraph has reached the greatest length allowed; the next character belongs to a
+  // new one.
   [[nodiscard]] bool IsLong() const;
-  // Whether more text was given than a document holds; what was too much is not in it.
+  // Whether more text was added than a document may hold; the excess has been left out.
   [[nodiscard]] bool IsFull() const { return isFull_; }
 
  private:

@@ -69,7 +69,7 @@ using Block = std::variant<Paragraph, Table>;
 
 struct Document {
   std::vector<Block> Blocks;
-  bool IsCut = false;  // the source went on beyond what is read of any document
+  bool IsCut = false;  // the source had more than is read of any document
 };
 
 }  // namespace Parlino::RichText

@@ -1,5 +1,5 @@
-// Puts the row of a table together from its plan and from the paragraphs of its cells. The plan
-// stays for the following rows until a new one is begun.
+// Builds the row of a table from its plan and the paragraphs of its cells. The plan stays in force
+// for the following rows until a new one begins.
 #pragma once
 
 #include <optional>
@@ -15,14 +15,14 @@ class RowBuilder {
  public:
   explicit RowBuilder(const HeaderTables& tables) : tables_(tables) {}
 
-  // Changes the plan as the word says; words that are none of the plan's are passed over.
+  // Changes the plan as the word says; words that do not belong to the plan are ignored.
   void ChangePlan(const ControlWord& word, std::optional<int> number);
 
   void AddParagraph(Paragraph paragraph);
   void EndCell();
 
-  // The cells that are ended so far, and the unended one if it holds anything. Cells beyond the
-  // plan get edges of their own, cells of the plan without content are not there.
+  // The cells ended so far, and the current one if it holds anything. Cells beyond the plan get
+  // edges of their own; planned cells without content are left out.
   Row Take();
 
   // Whether a plan was begun since the last row was taken, and whether there is one at all.
@@ -46,9 +46,9 @@ class RowBuilder {
   PlannedCell next_;
   bool isBegun_ = false;
   bool hasBorders_ = false;
-  bool isBordered_ = false;  // by the border last named, unless a word still takes it away
+  bool isBordered_ = false;  // by the last border named, unless a later word removes it
   std::vector<std::vector<Paragraph>> contents_;
-  std::vector<Paragraph> paragraphs_;  // of the cell that is not ended
+  std::vector<Paragraph> paragraphs_;  // of the current cell
 };
 
 }  // namespace Parlino::RichText

@@ -20,7 +20,7 @@ bool IsPlain(char character) {
          character != '\n';
 }
 
-// -1 for what is no hexadecimal digit.
+// -1 if it is not a hexadecimal digit.
 int HexDigit(char character) {
   if (IsDigit(character)) return character - '0';
   if (character >= 'a' && character <= 'f') return character - 'a' + 10;
@@ -70,7 +70,7 @@ Token Scanner::NextControl() {
   return {TokenKind::Symbol, symbol, {}};
 }
 
-// One space behind a word belongs to it.
+// One space after a word belongs to it.
 Token Scanner::NextWord() {
   Token token{TokenKind::Word, Take(CountLeading(rest_, IsLetter)), {}};
   token.Number = TakeNumber();

@@ -12,7 +12,7 @@ enum class TokenKind { End, OpenGroup, CloseGroup, Word, Symbol, Byte, Text };
 struct Token {
   TokenKind Kind = TokenKind::End;
   std::string_view Text;      // a word's name, a symbol's one character, or text as it stands
-  std::optional<int> Number;  // behind a word, cut to 32 bits; the value of a byte
+  std::optional<int> Number;  // after a word, limited to 32 bits; the value of a byte
 };
 
 class Scanner {
@@ -20,8 +20,8 @@ class Scanner {
   // The tokens are views into `source`, which must outlive them.
   explicit Scanner(std::string_view source) : rest_(source) {}
 
-  // The next token; End for ever when nothing is left. Line ends between tokens and the data of
-  // \bin are passed over. Takes time in proportion to the length of the token.
+  // The next token; always End once nothing is left. Line ends between tokens and the data of \bin
+  // are skipped. Takes time in proportion to the length of the token.
   Token Next();
 
  private:

@@ -24,8 +24,8 @@ constexpr ControlWord Skipping(std::string_view name) {
   return Leading(name, Destination::Nowhere);
 }
 
-// In the order of the names. A word that opens a destination and is missing here is passed over
-// with its group when the source marks it as optional; what is skipped below may come unmarked.
+// Sorted by name. A destination that is missing here is skipped with its group if the source marks
+// it as optional; those skipped below may come unmarked.
 constexpr ControlWord Words[] = {
     Skipping("aftncn"),
     Skipping("aftnsep"),

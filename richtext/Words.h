@@ -45,7 +45,7 @@ enum class Meaning {
   Character,
   Unicode,
   FallbackLength,
-  // entries of the tables in front of the text
+  // entries of the header tables
   DefaultFont,
   SymbolCharset,
   Red,
@@ -55,7 +55,7 @@ enum class Meaning {
   Destination,
 };
 
-// Where text goes: the document, the bullet of a paragraph, one of the tables in front, or away.
+// Where text goes: the document, the bullet of a paragraph, one of the header tables, or nowhere.
 enum class Destination { Body, Marker, Fonts, Colours, Styles, Nowhere };
 
 struct ControlWord {

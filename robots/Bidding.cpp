@@ -16,7 +16,7 @@ int TopCards(Integer seat) {
   return count;
 }
 
-// Two tricks for a void side suit, one for a singleton. Only the first short suit of this order
+// Two tricks for a void side suit, one for a singleton. Only the first short suit in this order
 // counts, and a short trump suit is worth nothing.
 int ShortSuitBonus() {
   struct SideSuit {
@@ -52,7 +52,7 @@ Integer GetBid(Integer seat) {
   return ReportErrors("GetBid", [seat] {
     SuitTotals(seat);
     // Half a trick is dropped: robots that count it as a whole one fail their bids so often that no
-    // game comes to an end.
+    // game ends.
     const int bid = TopCards(seat) + ShortSuitBonus() + LowerTrumps(seat) / 2;
     return ToInteger(std::max(bid, 1));
   });

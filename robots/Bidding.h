@@ -9,7 +9,7 @@ namespace Parlino {
 // Reports its own errors.
 void SuitTotals(Integer seat);
 
-// The seat's bid, at least 1, by its own hand and TrumpSuit alone. Changes only the four suit
+// The seat's bid, at least 1, from its own hand and TrumpSuit alone. Changes only the four suit
 // totals. Reports its own errors.
 Integer GetBid(Integer seat);
 

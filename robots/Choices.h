@@ -12,7 +12,7 @@ namespace Parlino {
 
 struct Choice {
   Integer (*card)(Integer seat);
-  std::string_view procedure;  // that plays it: its errors are reported under this name
+  std::string_view procedure;  // errors in choosing and playing it are reported under this name
 };
 
 // The choice at a position 1..4.

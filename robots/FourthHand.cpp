@@ -48,9 +48,9 @@ Integer DiscardOrRuffFourth(Integer seat) {
 
 }  // namespace
 
-// The tests run in this order and the first that applies decides. Where two cards may be of
-// different suits their card numbers are compared as they stand in the pack; that makes the robots
-// err now and then, in ways their human partners and enemies have learnt to count on.
+// The tests are made in this order and the first that applies decides. Cards of different suits are
+// compared by their numbers in the pack. That makes the robots err now and then, in ways that
+// players have learnt to expect.
 bool PartnerWinningFourth() {
   return ReportErrors("PartnerWinningFourth", [] {
     const Integer first = TrickCards[1];

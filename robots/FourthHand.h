@@ -5,12 +5,13 @@
 
 namespace Parlino {
 
-// The card that the seat plays last, by its own hand, the three cards before it and TrumpSuit.
-// Changes nothing but the suit totals and, without a card of the led suit, PauseMs.
+// The card that the seat plays last, chosen from its own hand, the three cards before it and
+// TrumpSuit alone. Changes nothing but the suit totals and, without a card of the led suit,
+// PauseMs.
 Integer ChooseFourthCard(Integer seat);
 
-// Whether the second card, the fourth hand's partner's, is judged to be winning. It is a judgement,
-// not a calculation: see the tests in the body. Reports its own errors.
+// Whether the second card, played by the fourth hand's partner, is judged to be winning. The
+// judgement may be wrong: see the body. Reports its own errors.
 bool PartnerWinningFourth();
 
 }  // namespace Parlino

@@ -10,7 +10,7 @@
 namespace Parlino {
 namespace {
 
-// An Ace of a plain suit, or else the Ace of trumps; 0 without an Ace.
+// An Ace of a plain suit, or else the Ace of trumps; 0 if it has none.
 Integer AceToCash(Integer seat) {
   for (Integer suit = Diamonds; suit <= Spades; ++suit)
     if (suit != TrumpSuit && HoldsCard(seat, Ace, suit)) return CardNumber(Ace, suit);
@@ -23,7 +23,7 @@ bool AllHigherCardsGone(Integer value, Integer suit) {
   return true;
 }
 
-// The first card of this value that has become the highest left in its suit; 0 without one.
+// The first card of this value that has become the highest left in its suit; 0 if there is none.
 Integer PromotedCard(Integer value, Integer seat) {
   for (Integer suit = Diamonds; suit <= Spades; ++suit)
     if (HoldsCard(seat, value, suit) && AllHigherCardsGone(value, suit))

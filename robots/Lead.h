@@ -1,22 +1,22 @@
-// What a robot leads, and the two looks at a hand that following robots share.
+// What a robot leads, and the questions about a hand that following robots ask as well.
 #pragma once
 
 #include "engine/state/GameState.h"
 
 namespace Parlino {
 
-// The card that the seat leads, by its own hand and the cards already played. Changes only the four
-// suit totals.
+// The card that the seat leads, chosen from its own hand and the cards already played alone.
+// Changes only the four suit totals.
 Integer ChooseFirstCard(Integer seat);
 
 // The seat's lowest card of the suit, or 0 when it holds none. Reports its own errors.
 Integer LowestCardSuit(Integer suit, Integer seat);
 
-// The suit of which the seat holds most cards; a tie goes to Diamonds, Clubs, Hearts, Spades in
+// The suit of which the seat holds the most cards; a tie goes to Diamonds, Clubs, Hearts, Spades in
 // this order. Changes the four suit totals. Reports its own errors.
 Integer MostSuitCards(Integer seat);
 
-// What a robot throws away: the lowest card of its longest suit, which may be trumps.
+// What a robot discards: the lowest card of its longest suit, which may be trumps.
 Integer ChooseDiscard(Integer seat);
 
 }  // namespace Parlino

@@ -1,4 +1,4 @@
-// The way of the keys through the bidding panel: which of its numbers is marked.
+// Keyboard navigation in the bidding panel: which number is marked.
 #pragma once
 
 #include <cstdint>
@@ -15,15 +15,15 @@ class BidWalk {
   void GoTo(int number);
   void GoToFirst() { GoTo(1); }
   void GoToLast();
-  // Steps along the numbers, and between the rows of six with the thirteenth below them; at the
-  // edge of the panel the mark stays.
+  // Move the mark along the numbers, or between the two rows of six and the thirteenth below them;
+  // at the edge of the panel it stays.
   void GoLeft() { GoTo(number_ - 1); }
   void GoRight() { GoTo(number_ + 1); }
   void GoUp();
   void GoDown();
 
-  // A digit 0..9 typed at tick `now`: a second one within a moment of a 1 makes 10 to 13 of it.
-  // Digits that make no bid are passed over.
+  // A digit 0..9 typed at tick `now`. A second one shortly after a 1 makes 10 to 13; digits that do
+  // not make a bid are ignored.
   void Type(int digit, std::uint32_t now);
 
  private:

@@ -60,8 +60,8 @@ void LayOutHand(Integer seat) {
   }
 }
 
-// Time is measured as elapsed ticks, which stay right when the counter wraps. The length is taken
-// once: a handler that runs inside the pause may set PauseMs for a pause of its own.
+// Time is measured as elapsed ticks, which stay correct when the counter wraps. The length is read
+// once, because a handler that runs inside the pause may set PauseMs for a pause of its own.
 void PauseFor(Integer lengthMs) {
   const std::uint32_t start = ThePlatform().Ticks();
   PauseStartTicks = static_cast<std::int32_t>(start);

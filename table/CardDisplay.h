@@ -1,6 +1,6 @@
 // Everything that moves on the table, and the pauses and sounds that pace it. All procedures run on
-// the window's thread; those that pause process the table's events meanwhile, so that handlers run
-// inside them, and may leave by HandAbandoned or ProgramEnded.
+// the window's thread; those that pause process the table's events meanwhile, so handlers run
+// inside them and they may throw HandAbandoned or ProgramEnded.
 #pragma once
 
 #include <cstdint>
@@ -18,27 +18,27 @@ inline constexpr std::string_view RingSound = "ringout.wav";
 // Puts all 52 cards face down on the pack, in no hand. Reports its own errors.
 void PlacePackDeal();
 
-// Lay out the hand of their seat as it stands, closed up from its first place and sorted by card
-// number: the Player's face up, the robots' as backs. Other cards and visibility stay untouched.
+// Each lays out the hand of its seat from the first place on, without gaps and sorted by card
+// number: the Player's face up, the robots' face down. Other cards and visibility stay as they are.
 void ShowPlayerHand();
 void ShowWestHand();
 void ShowNorthHand();
 void ShowEastHand();
 
-// The cards that lie face up in the Player's row: what is left of a hand once it has been dealt.
+// The cards that lie face up in the Player's row: once a hand is dealt, those still to be played.
 CardSet PlayersRow();
 
-// The seat before which the card lies in the middle of the table, or NoSeat.
+// The seat in front of which the card lies in the middle of the table, or NoSeat.
 Integer SeatBehindCard(Integer card);
 
-// The two hops of a dealt card from the pack towards `seat`, with a pause between them.
+// Moves a dealt card from the pack towards `seat` in two hops, with a pause between them.
 void MoveDealtCard(Integer card, Integer seat);
 
 // Puts the card at its seat's place in the middle of the table.
 void MoveToMiddle(Integer card, Integer seat);
 
-// Moves the finished trick in TrickCards to the winner's trick pile, whose TricksWon is already
-// raised, and lays out all four hands. Takes two pauses of 500 ms and leaves PauseMs at
+// Moves the finished trick in TrickCards to the winner's trick pile and lays out all four hands;
+// TricksWon must already count the trick. Takes two pauses of 500 ms and leaves PauseMs at
 // DefaultPauseMs. Reports its own errors.
 void JustMoveCardsOut(Integer winner);
 
@@ -51,7 +51,7 @@ void PlayCardSound();
 // Shows the text in LblInfo for `ms` milliseconds and hides LblInfo again. PauseMs stays at `ms`.
 void ShowInfoNote(Pieces text, Integer ms);
 
-// Starts a sound of the program's folder and returns at once, cutting off the one playing.
+// Starts a sound file from the program's folder and returns at once, cutting off one still playing.
 void StartSound(std::string_view fileName);
 
 // Processes events, sleeping until there are some.

@@ -1,4 +1,4 @@
-// The plain box in which the player reads of an error.
+// The plain box that tells the player about an error.
 #pragma once
 
 #include <exception>

@@ -13,7 +13,7 @@ Integer HighestOr(CardSet cards, Integer otherwise) {
   return cards.IsEmpty() ? otherwise : cards.Highest();
 }
 
-// A hand that is being dealt is not walked through; trumps are fixed when it lies there.
+// A hand cannot be walked through while it is being dealt; trumps are fixed at the end of the deal.
 CardSet Row() {
   return TrumpSuit < Diamonds ? CardSet() : PlayersRow();
 }

@@ -1,4 +1,4 @@
-// The way of the keys through the Player's hand: which of its cards is marked.
+// Keyboard navigation in the Player's hand: which card is marked.
 #pragma once
 
 #include "engine/state/GameState.h"
@@ -10,8 +10,8 @@ class HandWalk {
   // The marked card 1..52, or 0 while there is no hand or it is being dealt.
   [[nodiscard]] Integer Card() const { return card_; }
 
-  // Looks at the hand again. The mark keeps to its card; when that has been played, to its place in
-  // the row, where the next card will lie, or to the last one.
+  // Adjusts the mark after a change of the hand. It stays on its card; once that has been played,
+  // on its place in the row, where the next card will lie, or on the last card.
   void Follow();
 
   // Each moves the mark, if there is a card to move it to.
@@ -21,8 +21,8 @@ class HandWalk {
   void GoLeft();
   void GoRight();
 
-  // The next of these cards of the row, or the one before, round the end; GoToNext returns false
-  // without any.
+  // Move the mark to the next or the previous of these cards, wrapping round at the end of the row.
+  // GoToNext returns whether there are any.
   bool GoToNext(CardSet cards);
   void GoToOneBefore(CardSet cards);
   void GoToNextOfSuit(Integer suit);

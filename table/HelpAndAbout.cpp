@@ -12,7 +12,7 @@
 namespace Parlino {
 namespace {
 
-// The text shown before stays when the new one cannot be read.
+// If the new text cannot be read, the previous one stays.
 void LoadHelp(const std::string& path) {
   RichText::Document text = RichText::ReadDocument(ThePlatform().ReadDocument(path));
   if (text.Blocks.empty()) throw GameError(EINVAL, JoinText({path, " holds no text to show"}));

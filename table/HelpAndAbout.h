@@ -1,5 +1,5 @@
-// The help and the about window: their models, and the procedures that open and close them.
-// Neither is modal: the table can be played on while they are open.
+// The help and the about window: their models, and the procedures that open and close them. Neither
+// is modal: the game goes on while they are open.
 #pragma once
 
 #include <string>
@@ -13,9 +13,9 @@ inline constexpr std::string_view HelpFile = "ParlinoHelp.rtf";
 
 struct HelpWindowView {
   bool Visible = false;
-  std::string FileName;        // the full path of the document, as text boxes keep it
+  std::string FileName;        // the full path of the document, kept for whoever inspects the box
   RichText::Document rtbHelp;  // what the text box shows
-  int Showings = 0;            // with each the text is new and the window comes to the front
+  int Showings = 0;            // each brings new text and brings the window to the front
 };
 
 inline HelpWindowView frmHelp;
@@ -27,7 +27,7 @@ struct AboutWindowView {
   std::string lblVersion;
   std::string lblDescription;
   std::string lblDisclaimer;
-  int Showings = 0;  // with each the window comes to the front
+  int Showings = 0;  // each brings the window to the front
 };
 
 inline AboutWindowView frmAbout;

@@ -41,7 +41,7 @@ void PlaceFaces(MessageDialogView& dialog) {
 
 void LayOutMessageDialog(MessageDialogView& dialog, int promptHeight, int screenWidth,
                          int screenHeight) {
-  dialog.Top = (screenHeight - dialog.Height) / 2;  // by the height of the showing before
+  dialog.Top = (screenHeight - dialog.Height) / 2;  // by the height it had the last time
   dialog.Height = promptHeight + HeightAroundPrompt;
   dialog.Left = (screenWidth - dialog.Width) / 2;
   dialog.Label2Place = {90, PromptTop, PromptWidth, promptHeight};

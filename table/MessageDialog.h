@@ -25,7 +25,7 @@ struct ButtonFace {
 
 struct MessageDialogView {
   bool Visible = false;
-  bool IsWaiting = false;  // from the showing until the game goes on with the answer
+  bool IsWaiting = false;  // from being shown until the game goes on with the answer
   int Left = 0;            // of the window on the screen, twips
   int Top = 0;
   int Width = 4500;
@@ -42,18 +42,19 @@ struct MessageDialogView {
 inline MessageDialogView MFormDeluxe;
 
 // Sizes and places everything in the dialog for a prompt `promptHeight` twips high on a screen of
-// the given size; the captions are already set. Nothing is shown.
+// the given size; the captions must be set already. Nothing is shown.
 void LayOutMessageDialog(MessageDialogView& dialog, int promptHeight, int screenWidth,
                          int screenHeight);
 
 // Shows the dialog and waits for the answer, which MessageChoice then holds: 0 for the first
-// button, 1 for the second, 2 for the third. A button with an empty caption is not shown, the
-// first always is. `pictureNumber` is 1..3. The table takes no input meanwhile.
+// button, 1 for the second, 2 for the third. A button with an empty caption is not shown, except
+// the first; no dialog has a third one yet. `pictureNumber` is 1..3. The table takes no input
+// meanwhile.
 void ShowMessage(std::string_view prompt, std::string_view firstButton,
                  std::string_view secondButton, std::string_view thirdButton, Integer pictureNumber,
                  std::string_view title);
 
-// The dialog's events: the button `index` 0..2 goes down; it is clicked, which is the answer.
+// The dialog's events: the button `index` 0..2 is pressed down; it is clicked, which is the answer.
 void Label1_MouseDown(Integer index);
 void Label1_Click(Integer index);
 

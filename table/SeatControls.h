@@ -1,4 +1,4 @@
-// The controls that stand once for each seat, and the counters of the score frame.
+// The controls that each seat has, and the counters of the score frame.
 #pragma once
 
 #include "table/TableView.h"

@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::size_t LongestValue = 1024;
 
-// A key of the registry, open as long as this is there, if it could be opened.
+// A key of the registry, open for the lifetime of this object if it could be opened.
 class OpenKey {
  public:
   OpenKey(std::uint32_t root, std::string_view name)

@@ -11,8 +11,9 @@ namespace Parlino {
 void StartSysInfo();
 
 // Reads a value of the registry into `KeyVal`: true and the text, without a NUL at its end; false
-// and empty text when the key cannot be opened with full rights or the value cannot be read. A
-// value that is no string leaves `KeyVal` as it was and is true. The key is closed again.
+// and empty text when the key cannot be opened with full rights or the value cannot be read. For a
+// value that is not a string the result is true and `KeyVal` stays as it was. The key is closed
+// again.
 bool GetKeyValue(const std::uint32_t& KeyRoot, const std::string& KeyName,
                  const std::string& SubKeyRef, std::string& KeyVal);
 

@@ -23,7 +23,7 @@ bool TakesAnswer(int button) {
   return MFormDeluxe.Visible && MFormDeluxe.Faces[button].Visible;
 }
 
-// The dialog stands before the help and the about window as it does before the table.
+// The message dialog blocks the help and the about window as it does the table.
 bool RaiseIn(bool isWindowOpen, void (*handler)()) {
   if (!isWindowOpen || !TableTakesInput()) return false;
   handler();

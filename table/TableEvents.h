@@ -1,6 +1,6 @@
 // The events of the table and the doors through which they are raised. A person at the window, a
-// script and a test all come in here, and a door opens only where a person could get at the
-// control: while it is to be seen and no dialog stands before it.
+// script and a test all come in here. A door raises its event only when a person could reach the
+// control: while it is visible and no dialog is in front of it.
 #pragma once
 
 #include <cstdint>
@@ -41,8 +41,8 @@ struct TableEvents {
 
 inline TableEvents Events;
 
-// Whether the table window is open and no message dialog is in front of it, nor one that has been
-// answered a moment ago: a command let in then would run inside the one that asked.
+// Whether the table window is open and no message dialog is in front of it. A dialog that has just
+// been answered still counts: a command let in then would run inside the one that asked.
 bool TableTakesInput();
 
 // Each raises its event and returns true, or does nothing and returns false.

@@ -30,8 +30,9 @@ struct TablePoint {
   bool operator==(const TablePoint&) const = default;
 };
 
-// `Changed` is the number of the table's change that last touched the control; the window compares
-// it with the last change it has shown. `Layer` grows with every control brought to the front.
+// `Changed` is the number of the last change to the control, counted over the whole table; the
+// window compares it with the last change it has shown. `Layer` grows with every control brought to
+// the front.
 struct Control {
   bool Visible = false;
   TablePoint Place;
@@ -93,12 +94,12 @@ struct TableView {
 
 inline TableView Table;
 
-// Puts the table into the state in which its window opens. Controls that are not told otherwise by
-// the engine keep the captions given here.
+// Puts the table into the state in which its window opens. Captions that the engine never sets stay
+// as given here.
 void OpenTable();
 
-// Operations. Each changes the properties of one control and returns at once. A picture or a place
-// set to what it was counts as a change as well: a comparison would cost a hand more than it saves.
+// Operations. Each changes the properties of one control and returns at once. Setting a picture or
+// a place to the value it has counts as a change too: comparing would cost more than it saves.
 
 inline void NoteChange(Control& control) {
   control.Changed = ++Table.Changes;
@@ -140,7 +141,7 @@ inline void MoveTo(Control& control, TablePoint place) {
   NoteChange(control);
 }
 
-// Both in one change, for the hands are laid out again after every card.
+// Both in one change, because the hands are laid out again after every card.
 inline void SetPictureAt(PictureBox& box, Integer picture, TablePoint place) {
   box.Picture = picture;
   box.Place = place;
@@ -154,8 +155,7 @@ void AddLine(ListBox& list, Pieces pieces);
 void ClearLines(ListBox& list);
 
 // Closes the about window, the message dialog, the table and the help window, in that order and
-// without a question, and ends the program: leaves by ProgramEnded, so that nothing that waits runs
-// any further.
+// without asking, and ends the program: throws ProgramEnded, so that nothing that waits goes on.
 [[noreturn]] void UnloadAllForms();
 
 }  // namespace Parlino

@@ -1,5 +1,5 @@
-// A set of card numbers, walked from the lowest to the highest, which is the order in which a hand
-// is sorted on the table and looked through by the robots.
+// A set of card numbers. It is walked from the lowest to the highest, the order in which hands are
+// sorted on the table and the robots look through them.
 #pragma once
 
 #include <bit>
@@ -28,7 +28,7 @@ class CardSet {
   CardSet() = default;
 
   // The cards of the suit beginning with card `first` for which the condition holds. Built without
-  // a branch, because whose a card is cannot be predicted.
+  // branches, because the processor cannot predict who holds a card.
   template <class Condition>
   static CardSet OfSuit(int first, Condition holds) {
     CardSet set;
@@ -56,14 +56,14 @@ class CardSet {
   [[nodiscard]] bool IsEmpty() const { return bits_ == 0; }
   [[nodiscard]] bool Has(int card) const { return (bits_ >> card & 1) != 0; }
   [[nodiscard]] Integer Count() const { return static_cast<Integer>(std::popcount(bits_)); }
-  // Each 0 when the set is empty.
+  // Both are 0 for an empty set.
   [[nodiscard]] Integer Lowest() const { return IsEmpty() ? Integer{0} : *begin(); }
   [[nodiscard]] Integer Highest() const {
     return static_cast<Integer>(IsEmpty() ? 0 : 63 - std::countl_zero(bits_));
   }
 
-  // The cards from `first` to `last`, both included, that are in the set. Of an empty set the two
-  // may be anything, as they are for a suit that is none.
+  // The cards of the set from `first` to `last`, both included. For an empty set the two may be any
+  // numbers, as they are when a suit is not one of the four.
   [[nodiscard]] CardSet Between(int first, int last) const {
     CardSet part;
     if (!IsEmpty() && first <= last)

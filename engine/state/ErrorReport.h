@@ -7,12 +7,12 @@
 
 namespace Parlino {
 
-// Shows the player an error caught in `procedure`. Set once, before anything else of the game runs.
+// Shows the player an error caught in `procedure`. Set once, before the rest of the game runs.
 inline void (*ShowErrorReport)(std::string_view procedure, const std::exception& error) = nullptr;
 
-// Runs the body of `procedure`. An error in it is shown to the player and the procedure is left,
-// with a zero result where it has one; an abandoned hand and the end of the program pass through,
-// for they are no errors.
+// Runs the body of `procedure`. An error in it is shown to the player and ends the procedure, whose
+// result, if it has one, is then zero. HandAbandoned and ProgramEnded pass through, because they
+// are not errors.
 template <class Body>
 auto ReportErrors(std::string_view procedure, Body&& body) -> std::invoke_result_t<Body> {
   using Result = std::invoke_result_t<Body>;

@@ -1,4 +1,4 @@
-// What the game raises when something is wrong, and the two ways out of a hand that are no error.
+// What the game throws when something is wrong, and the two ways out of a hand that are not errors.
 #pragma once
 
 #include <cstdint>
@@ -7,11 +7,12 @@
 
 namespace Parlino {
 
-// The integers of the game are 16 bits wide; sums are formed in `int` and put back by `ToInteger`.
+// The integers of the game are 16 bits wide; sums are computed in `int` and converted back by
+// `ToInteger`.
 using Integer = std::int16_t;
 
-// An unexpected state or a fault of the system: the number and the description are what the error
-// report shows. Numbers are those of <cerrno>.
+// An unexpected state or a system error. The error report shows its number, one of <cerrno>, and
+// its description.
 class GameError : public std::runtime_error {
  public:
   GameError(int number, const std::string& description)
@@ -22,15 +23,15 @@ class GameError : public std::runtime_error {
   int number_;
 };
 
-// Leaves the hand under way from any depth; the round driver catches it and deals afresh.
+// Abandons the hand under way from any depth; the round driver catches it and deals afresh.
 struct HandAbandoned {};
 
-// Leaves everything: thrown once the windows are closed, caught where the program began.
+// Ends the program: thrown once the windows are closed, caught by RunGame.
 struct ProgramEnded {};
 
 [[noreturn]] void RaiseIndexError(int index, int first, int last);
 
-// The value as a 16-bit integer; raises a GameError when it does not fit.
+// The value as a 16-bit integer; raises a GameError if it does not fit.
 Integer ToInteger(int value);
 
 }  // namespace Parlino

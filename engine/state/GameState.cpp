@@ -5,8 +5,8 @@
 namespace Parlino {
 namespace {
 
-// Two blanks follow every rank, and the King and the Ace have two more before "of": the list of
-// cards played lines up by them.
+// Every name ends in two blanks, and those of King and Ace have two more before "of". The list of
+// cards played shows them as they are.
 constexpr Indexed<std::string_view, 2, 14> RankNames = [] {
   Indexed<std::string_view, 2, 14> names;
   int value = 2;

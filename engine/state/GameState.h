@@ -1,5 +1,5 @@
 // The game state: the pack and every variable that the engine, the robots, the data files and the
-// table share. There is one game, so these are plain variables; each group says who writes it.
+// table share. There is only one game, so these are plain variables; each group says who writes it.
 #pragma once
 
 #include <cstdint>
@@ -91,7 +91,8 @@ inline Integer GamesWon;
 inline Integer GamesPlayed;
 inline Flag HideWelcome;
 
-// Pauses, in milliseconds. PauseMs is the length of the next pause.
+// Pauses, in milliseconds. PauseMs is the length of the next pause. PauseStartTicks is the tick at
+// which the last one began, kept so that pauses can be observed from outside.
 inline Integer DefaultPauseMs;
 inline Integer PauseMs;
 inline std::int32_t PauseStartTicks;
@@ -99,7 +100,7 @@ inline std::int32_t PauseStartTicks;
 // The number of the button chosen in the message dialog: 0, 1 or 2.
 inline Integer MessageChoice;
 
-// Puts every variable above back to zero, False or empty, as at the start of the program.
+// Resets every variable above to zero, False or empty, as at the start of the program.
 void ResetGameState();
 
 // Fills the pack, with every card in no hand, and sets PauseMs to DefaultPauseMs.
@@ -121,14 +122,14 @@ inline constexpr Integer CardNumber(int value, int suit) {
   return static_cast<Integer>(FirstCardOf(suit) + value - 2);
 }
 
-// Whether the seat, or nobody for NoSeat, holds the card of this value and suit. No card has a
-// value outside 2..14 or a suit outside 4..7.
+// Whether the seat holds the card of this value and suit; for NoSeat, whether it is in no hand.
+// False if the value is not 2..14 or the suit not 4..7.
 inline bool HoldsCard(Integer seat, int value, int suit) {
   return IsSuit(suit) && value >= 2 && value <= Ace && Pack[CardNumber(value, suit)].Owner == seat;
 }
 
-// The cards of one suit in the hand of the seat: a fresh look through the pack. None for what is no
-// suit, such as the trumps before they are fixed.
+// The seat's cards of one suit, found by going through the pack. Empty for a number that is not a
+// suit, such as TrumpSuit before the deal has ended.
 inline CardSet HandOf(Integer seat, Integer suit) {
   if (!IsSuit(suit)) return {};
   return CardSet::OfSuit(FirstCardOf(suit), [seat](int card) { return Pack[card].Owner == seat; });

@@ -1,4 +1,4 @@
-// An array that keeps the first index its subject has: the pack begins at 1, the seats at 0.
+// An array whose indices begin where those of its subject do: the pack at 1, the seats at 0.
 #pragma once
 
 #include <array>
@@ -8,8 +8,8 @@
 
 namespace Parlino {
 
-// Holds the elements First..Last. A subscript outside them raises a GameError, so that a fault
-// becomes a report to the player and never silent damage to a neighbour.
+// Holds the elements First..Last. A subscript outside them raises a GameError, so that a bug is
+// reported to the player instead of silently damaging other data.
 template <class T, int First, int Last>
 class Indexed {
  public:

@@ -1,6 +1,5 @@
-// What may be asked about the state of the game. A question changes nothing, so that anybody may
-// ask it at any time: the robots, the course of the game, and the window whenever it draws or
-// speaks.
+// Questions about the state of the game. They change nothing, so anyone may ask them at any time:
+// the engine, the robots, and the window whenever it draws or speaks.
 #pragma once
 
 #include "engine/state/GameState.h"
@@ -36,8 +35,8 @@ Integer WinnerOfTrick();
 int OurTricks();
 int TheirTricks();
 
-// The points a team makes in a hand: 10 for every trick bid and 1 for every trick over, or 10 lost
-// for every trick bid.
+// The points a team makes in a hand: 10 for every trick bid and 1 for every trick over, or, if it
+// falls short, minus 10 for every trick bid.
 Integer HandScore(int tricks, int bid);
 
 // Whether a team has reached the target and the totals differ. Equal totals never end a game,

@@ -28,7 +28,7 @@ class TextPiece {
 };
 using Pieces = std::initializer_list<TextPiece>;
 
-// Replaces the text by the pieces joined into one; keeps its memory.
+// Replaces the text with the joined pieces; reuses its memory.
 inline void JoinInto(std::string& text, Pieces pieces) {
   text.clear();
   for (const TextPiece& piece : pieces) text.append(piece.Text());

@@ -1,15 +1,14 @@
-// The two questions about cards that robots ask in the course of a trick. Each stands for a
-// question that changes nothing, and reports its own errors.
+// The two questions about cards that robots ask during a trick. Both report their own errors.
 #pragma once
 
 #include "engine/state/GameState.h"
 
 namespace Parlino {
 
-// HoldsLedSuit; when the answer is no, PauseMs is put back to DefaultPauseMs.
+// Whether the seat holds a card of the led suit. If not, PauseMs is reset to DefaultPauseMs.
 bool HasStartSuitQuery(Integer seat);
 
-// Whether the card of this value and suit has been played; false for what is no card.
+// Whether the card of this value and suit has been played; false if there is no such card.
 bool CardGoneQuery(Integer value, Integer suit);
 
 }  // namespace Parlino

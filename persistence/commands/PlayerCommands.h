@@ -1,12 +1,12 @@
 // The menu commands for names, statistics, loading a saved game and leaving, the question asked
-// when the table window is closed, and the welcome panel's button. They can come at any moment,
-// also in the middle of a hand.
+// when the table window is closed, and the welcome panel's button. They can be chosen at any
+// moment, even in the middle of a hand.
 #pragma once
 
 namespace Parlino {
 
-// Each asks for a name, which is taken as it is answered but for what a record cannot hold, writes
-// all names and shows them. Cancel makes the name empty.
+// Each asks for a name, saves all names and shows them. The name is taken as entered, without what
+// a record cannot hold; Cancel makes it empty.
 void MnuPname_Click();
 void MnuNameBot1_Click();
 void MnuNameBot2_Click();
@@ -15,7 +15,7 @@ void MnuBot3Name_Click();
 // Shows how many games were won; changes nothing.
 void MnuView_Click();
 
-// Asks, and puts the statistics back to zero.
+// Asks, and on a yes resets the statistics to zero.
 void ErasePoints_Click();
 
 // Reads the saved game and deals its next hand, or says that there is none and deals with the
@@ -25,10 +25,10 @@ void MnuLoad_Click();
 // Leaves the program, asking first while a game is in progress. Nothing is saved.
 void MnuExit_Click();
 
-// The player closes the table window: asks, and leaves the program or stays.
+// The player closes the table window: asks, and leaves the program or goes on.
 void Form_QueryUnload();
 
-// The welcome panel is not shown from the next start on.
+// Hides the welcome panel from the next start on.
 void CmdDontShow_Click();
 
 }  // namespace Parlino
