@@ -111,10 +111,8 @@ void ShowEastHand() {
 
 CardSet PlayersRow() {
   const double top = HandLayouts[Player].first.Top;
-  return CardSet::OfPack([top](int card) {
-    const PictureBox& box = Table.Cds[card];
-    return Pack[card].Owner == Player && box.Picture == card && box.Place.Top == top;
-  });
+  return CardSet::OfPack(
+      [top](int card) { return Pack[card].Owner == Player && Table.Cds[card].Place.Top == top; });
 }
 
 Integer SeatBehindCard(Integer card) {
