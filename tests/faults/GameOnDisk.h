@@ -23,10 +23,16 @@ inline const Disk HandWrittenRecords = {
 // A folder with those records, but for the files given.
 class TestFolder : public TemporaryFolder {
  public:
-  explicit TestFolder(const Disk& files = {});
+  explicit TestFolder(const Disk& files = {}, bool behindLinks = false);
 
   void Write(const Disk& files) const;
+  // Where the records lie. It is a fault when the program's folder has not just its links.
   [[nodiscard]] Disk Files() const;
+  // Where they lie too, or one with a link to each.
+  [[nodiscard]] const std::filesystem::path& ProgramFolder() const { return programFolder_; }
+
+ private:
+  std::filesystem::path programFolder_;
 };
 
 // The game itself, set up afresh; its record tells what the player saw.
