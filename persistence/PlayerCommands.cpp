@@ -1,11 +1,14 @@
 #include "persistence/PlayerCommands.h"
 
+#include <cerrno>
+
 #include "engine/GameState.h"
 #include "engine/RoundDriver.h"
 #include "engine/StartUp.h"
 #include "persistence/DataFiles.h"
 #include "persistence/Records.h"
 #include "platform/Platform.h"
+#include "table/ErrorReport.h"
 #include "table/MessageDialog.h"
 #include "table/TableView.h"
 
@@ -41,10 +44,13 @@ void AskWhetherToExit() {
   if (MessageChoice == 0) UnloadAllForms();
 }
 
+// Without its file there is no saved game, and the dialog says no more than that. A file that is
+// there and cannot be read is something of the player's.
 bool ReadSavedGame() {
   try {
     ReadSaveGame();
-  } catch (const GameError&) {
+  } catch (const GameError& error) {
+    if (error.Number() != ENOENT) ThePlatform().MsgBox(error.what(), ApplicationTitle, false);
     return false;
   }
   return OurPoints != 0 && TheirPoints != 0 && GameInProgress == True;

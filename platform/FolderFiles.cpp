@@ -125,15 +125,16 @@ std::string FolderFiles::Read(std::string_view fileName, std::size_t atMost) {
   return content;
 }
 
-void FolderFiles::Replace(std::string_view fileName, std::string_view content) {
+std::string FolderFiles::Replace(std::string_view fileName, std::string_view content) {
   if (content.size() > LongestRecord) RaiseSystemError(fileName, "written", EFBIG);
   const FilePlace place = FindPlace(fileName, folder_ / fileName, "written");
   const fs::path& path = place.path;
   const std::string temporary = WriteTemporary(fileName, place, content);
   const auto unread = unread_.find(fileName);
+  std::string aside;
   try {
     if (unread != unread_.end() && IsThere(fileName, path, "written"))
-      KeepAside(fileName, path, "written");
+      aside = fs::absolute(KeepAside(fileName, path, "written").path);
     if (::rename(temporary.c_str(), path.c_str()) != 0)
       RaiseSystemError(fileName, "written", errno);
   } catch (const GameError&) {
@@ -144,31 +145,34 @@ void FolderFiles::Replace(std::string_view fileName, std::string_view content) {
   // Makes the rename outlast a power cut; the record is whole either way.
   FlushFolder(path.parent_path());
   RemoveAbandoned(path);
+  return aside;
 }
 
-void FolderFiles::SetAside(std::string_view fileName) {
+std::string FolderFiles::SetAside(std::string_view fileName) {
   const auto unread = unread_.emplace(fileName).first;
   const fs::path path = FindPlace(fileName, folder_ / fileName, "set aside").path;
-  const bool isStillThere = KeepAside(fileName, path, "set aside");
-  if (isStillThere && ::unlink(path.c_str()) != 0) RaiseSystemError(fileName, "set aside", errno);
+  const Aside aside = KeepAside(fileName, path, "set aside");
+  if (aside.hasOldNameToo && ::unlink(path.c_str()) != 0)
+    RaiseSystemError(fileName, "set aside", errno);
   unread_.erase(unread);
+  return fs::absolute(aside.path);
 }
 
 // A second name for the file leaves no moment in which it has none and takes no name away from
 // another game. A disk that knows no second names renames it.
-bool FolderFiles::KeepAside(std::string_view fileName, const fs::path& path,
-                            std::string_view action) {
+FolderFiles::Aside FolderFiles::KeepAside(std::string_view fileName, const fs::path& path,
+                                          std::string_view action) {
   fs::path name = AsideName(path, 1);
   std::error_code ignored;
   for (int number = 2; ::link(path.c_str(), name.c_str()) != 0; ++number) {
     if (errno != EEXIST && !IsThere(fileName, name, action)) {
-      if (::rename(path.c_str(), name.c_str()) == 0) return false;
+      if (::rename(path.c_str(), name.c_str()) == 0) return {name, false};
       RaiseSystemError(fileName, action, errno);
     }
-    if (fs::equivalent(path, name, ignored)) return true;
+    if (fs::equivalent(path, name, ignored)) break;
     name = AsideName(path, number);
   }
-  return true;
+  return {name, true};
 }
 
 bool FolderFiles::Exists(std::string_view fileName) const {

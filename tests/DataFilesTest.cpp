@@ -145,6 +145,35 @@ TEST_F(CommandTest, ErasesTheStatisticsOnlyOnYes) {
   }
 }
 
+// Only a file that is there is spoken of; the dialog comes in every case, and then a hand.
+TEST_F(CommandTest, LoadSaysWhatBecameOfAFileItCannotRead) {
+  struct {
+    const char* content;  // nullptr removes the file
+    const char* box;
+  } const cases[] = {
+      {nullptr, nullptr},
+      {"0,0,#FALSE#\r\n", nullptr},
+      {"150,-20,TRUE\r\n",
+       "box: Parlino: SaveGame.dat cannot be understood: field 3 is neither #TRUE# nor #FALSE#. "
+       "The file is kept as /parlino/SaveGame.dat.bad"}};
+  for (const auto& example : cases) {
+    game_.platform.record.clear();
+    OurPoints = 5;
+    if (example.content == nullptr)
+      game_.platform.files.erase("SaveGame.dat");
+    else
+      game_.platform.files["SaveGame.dat"] = example.content;
+    EXPECT_THROW(ChooseMenu(MenuItem::MnuLoad), ScriptHasNothingToSay);
+    EXPECT_EQ(title_, "   No saved game");
+    EXPECT_EQ(Recorded(game_.platform, "box: "), example.box != nullptr);
+    if (example.box != nullptr) {
+      EXPECT_EQ(game_.platform.record.front(), example.box);
+      EXPECT_EQ(game_.platform.files["SaveGame.dat.bad"], example.content);
+      EXPECT_EQ(OurPoints, 5) << "a record is taken whole or not at all";
+    }
+  }
+}
+
 TEST_F(CommandTest, AFileThatCannotBeWrittenIsSaidAndTheGameGoesOn) {
   game_.platform.filesCanBeWritten = false;
   game_.platform.answerInputBox = [](auto, auto, auto) { return "Ann"; };

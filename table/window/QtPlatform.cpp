@@ -151,12 +151,12 @@ std::string QtPlatform::ReadFile(std::string_view fileName) {
   return files_.Read(fileName);
 }
 
-void QtPlatform::ReplaceFile(std::string_view fileName, std::string_view content) {
-  files_.Replace(fileName, content);
+std::string QtPlatform::ReplaceFile(std::string_view fileName, std::string_view content) {
+  return files_.Replace(fileName, content);
 }
 
-void QtPlatform::SetFileAside(std::string_view fileName) {
-  files_.SetAside(fileName);
+std::string QtPlatform::SetFileAside(std::string_view fileName) {
+  return files_.SetAside(fileName);
 }
 
 bool QtPlatform::FileExists(std::string_view fileName) {

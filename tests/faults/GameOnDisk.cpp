@@ -54,6 +54,18 @@ bool GameOnDisk::Said(std::string_view text) const {
   return Recorded(platform, text);
 }
 
+std::set<std::string> GameOnDisk::ContentToldOf() const {
+  constexpr std::string_view words = " is kept as ";
+  std::set<std::string> contents;
+  for (const std::string& line : platform.record) {
+    const std::size_t place = line.find(words);
+    if (place == std::string::npos) continue;
+    std::ifstream file(line.substr(place + words.size()), std::ios::binary);
+    contents.emplace(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+  }
+  return contents;
+}
+
 bool StartsWell(const TestFolder& folder) {
   GameOnDisk game(folder);
   Events.Form_Load();

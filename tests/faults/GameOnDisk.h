@@ -2,6 +2,7 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <string>
 
 #include "platform/HeadlessInFolder.h"
@@ -41,6 +42,8 @@ class GameOnDisk {
   explicit GameOnDisk(const TestFolder& folder);
 
   [[nodiscard]] bool Said(std::string_view text) const;
+  // What is in the files of which the player was told that they are kept under another name.
+  [[nodiscard]] std::set<std::string> ContentToldOf() const;
 
   HeadlessInFolder platform;
 };

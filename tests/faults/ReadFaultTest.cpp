@@ -49,7 +49,10 @@ std::vector<std::string_view> StartAndSave(const Disk& files, bool behindLinks,
   }
   for (const RecordDoor& door : RecordDoors) EXPECT_TRUE(door.save()) << door.file;
   const Disk after = folder.Files();
-  for (const auto& [name, content] : unread) EXPECT_TRUE(Holds(after, content)) << name;
+  for (const auto& [name, content] : unread) {
+    EXPECT_TRUE(Holds(after, content)) << name;
+    EXPECT_TRUE(game.ContentToldOf().contains(content)) << name << ": nobody says where it is";
+  }
   EXPECT_EQ(after.size(), before.size() + unread.size());
   EXPECT_TRUE(StartsWell(folder));
   return system.Calls();
@@ -125,6 +128,7 @@ std::vector<std::string_view> LoadAndSave(const Fault& fault) {
   EXPECT_TRUE(folder.Files() == before);
   EXPECT_TRUE(SaveGame());
   EXPECT_EQ(Holds(folder.Files(), before.at("SaveGame.dat")), told);
+  EXPECT_EQ(game.ContentToldOf().contains(before.at("SaveGame.dat")), told);
   EXPECT_TRUE(StartsWell(folder));
   return system.Calls();
 }
