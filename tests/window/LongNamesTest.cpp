@@ -4,14 +4,62 @@
 #include <QLabel>
 
 #include "WindowGame.h"
+#include "engine/Deal.h"
 #include "engine/GameState.h"
 #include "engine/StartUp.h"
+#include "table/CardDisplay.h"
 #include "table/window/Design.h"
 #include "table/window/SpokenNames.h"
 #include "table/window/WrappedText.h"
 
 namespace Parlino {
 namespace {
+
+class ShortNames : public testing::Test {
+ protected:
+  ShortNames() {
+    game.Load();
+    Hide(Table.lblTitle);
+    Show(Table.Shape1);
+  }
+
+  void Deal() {
+    PlacePackDeal();
+    DealCards();
+    Hide(Table.CmdDontShow);
+  }
+
+  void ExpectWholeNames(const char* when) {
+    game.Turn();
+    for (int seat = Player; seat <= East; ++seat)
+      EXPECT_EQ(game.FindMember("LblName", seat).toolTip(), "") << when << ", " << seat;
+  }
+
+  QImage WestsName() {
+    game.Turn();
+    return game.Find("Table").grab(game.FindMember("LblName", West).geometry()).toImage();
+  }
+
+  WindowGame game;
+};
+
+// A new name is greeted whatever the table is doing.
+TEST_F(ShortNames, AreShownWholeWithAllThatIsSaidOfThem) {
+  ExpectWholeNames("before the first hand");
+  Deal();
+  ShowNames();
+  ExpectWholeNames("in a hand");
+  for (int seat = Player; seat <= East; ++seat)
+    SetCaption(Table.LblName[seat], {SeatNames[seat], " bids 13"});
+  ExpectWholeNames("after the bids");
+}
+
+TEST_F(ShortNames, AreNotHiddenByTheCardsThatTheyReach) {
+  const QImage beforeTheDeal = WestsName();
+  Deal();
+  ShowNames();
+  EXPECT_TRUE(WestsName() == beforeTheDeal);
+}
 
 TEST(LongNames, AreCutShortAtTheirNeighbours) {
   WindowGame game;
@@ -23,7 +71,7 @@ TEST(LongNames, AreCutShortAtTheirNeighbours) {
     Show(Table.LblTrumps);
     SetCaption(Table.LblInfo, {PlayerName, " please play a card."});
     game.Turn();
-    constexpr int ends[] = {248, 256, 512, 744};
+    constexpr int ends[] = {248, 567, 512, 744};
     for (int seat = Player; seat <= East; ++seat) {
       const QWidget& label = game.FindMember("LblName", seat);
       EXPECT_LT(label.geometry().right(), ends[seat]) << seat;
