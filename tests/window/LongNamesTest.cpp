@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QLabel>
+#include <QListView>
 
 #include "WindowGame.h"
 #include "engine/Deal.h"
@@ -79,6 +80,21 @@ TEST(LongNames, AreCutShortAtTheirNeighbours) {
     }
     EXPECT_EQ(game.Find("LblInfo").size(), QSize(457, 33));
   }
+}
+
+TEST(LongNames, LeaveTheListsCardsReadable) {
+  WindowGame game;
+  game.Load();
+  const std::string name(60, 'W');
+  for (const char* card : {"Three of  Diamonds", "Queen of  Diamonds", "Queen of  Diamonds"})
+    AddLine(Table.LstCardsPlayed, {name, " played ", card});
+  game.Turn();
+  auto& list = dynamic_cast<QListView&>(game.Find("LstCardsPlayed"));
+  const auto line = [&](int row) {
+    return list.viewport()->grab(list.visualRect(list.model()->index(row, 0))).toImage();
+  };
+  EXPECT_FALSE(line(0) == line(1));
+  EXPECT_TRUE(line(1) == line(2)) << "each line looks different anyway";
 }
 
 TEST(LongNames, AreShownAndSpokenAsTheyStand) {
