@@ -112,6 +112,8 @@ std::string QtPlatform::InputBox(std::string_view prompt, std::string_view title
   box.setWindowTitle(ToText(title));
   box.setLabelText(ToText(prompt));
   box.setTextValue(ToText(defaultAnswer));
+  box.setOkButtonText("OK");  // makes the buttons, which would otherwise come with the showing
+  box.setCancelButtonText("Cancel");
   box.findChild<QLineEdit*>()->setMinimumWidth(widthOfTitle);
   ShowAndWait(box);
   return box.result() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
@@ -121,6 +123,7 @@ void QtPlatform::MsgBox(std::string_view text, std::string_view title, bool crit
   QMessageBox box(critical ? QMessageBox::Critical : QMessageBox::NoIcon, ToText(title),
                   ToText(text), QMessageBox::Ok, OwnerOfBoxes());
   box.setTextFormat(Qt::PlainText);
+  box.button(QMessageBox::Ok)->setText("OK");
   ShowAndWait(box);
 }
 

@@ -1,6 +1,5 @@
 #include "table/window/TableWindow.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include <QCloseEvent>
@@ -17,6 +16,7 @@
 #include "table/window/ScrolledTable.h"
 #include "table/window/TableMenus.h"
 #include "table/window/TableParts.h"
+#include "table/window/WindowPlace.h"
 
 namespace Parlino {
 
@@ -81,20 +81,12 @@ void TableWindow::ShowModel(std::uint32_t now, std::uint32_t pauseMs) {
   if (wasPainted_ && !desktop_) FollowDesktop();
 }
 
-// The middle of the screen. On one that is too small the menu is what must be seen.
 void TableWindow::FitToScreen() {
-  constexpr QSize roomForFrame(2, 40);
-  const QRect screenRoom = screen()->availableGeometry();
-  const QSize room = screenRoom.size() - roomForFrame;
   layout()->activate();  // gives the menu bar its height
   // A scale that is not whole may cost a pixel, for which there must be no scroll bars.
   const int spare = devicePixelRatioF() == std::floor(devicePixelRatioF()) ? 0 : 1;
-  resize(room_->WindowSize(size() - room_->size() + QSize(spare, spare), room));
-  const QPoint middle = screenRoom.center() - rect().center();
-  const QPoint lowest = screenRoom.bottomRight() - rect().bottomRight() -
-                        QPoint(roomForFrame.width(), roomForFrame.height());
-  move(std::max(screenRoom.left(), std::min(middle.x(), lowest.x())),
-       std::max(screenRoom.top(), std::min(middle.y(), lowest.y())));
+  const QSize around = size() - room_->size() + QSize(spare, spare);
+  PutInMiddleOfScreen(*this, room_->WindowSize(around, RoomForWindow(*screen())), *screen());
 }
 
 // Comes after the table has been seen for the first time: nobody waits for it.
