@@ -41,7 +41,7 @@ void PutBefore(const QWidget* window, QWidget& box) {
 }  // namespace
 
 QtPlatform::QtPlatform(const std::filesystem::path& folder)
-    : files_(folder), sound_(folder), table_(pending_), helpAndAbout_(pending_, table_) {}
+    : files_(folder), sound_(folder), table_(keyUse_, pending_), helpAndAbout_(pending_, table_) {}
 
 void QtPlatform::ProcessEvents(std::uint32_t atMostMs) {
   ShowModel(atMostMs);
