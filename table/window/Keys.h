@@ -24,6 +24,10 @@ inline bool IsTab(const QKeyEvent& key) {
   return key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab;
 }
 
+inline bool IsArrow(const QKeyEvent& key) {
+  return key.key() >= Qt::Key_Left && key.key() <= Qt::Key_Down;
+}
+
 // A key together with others is a command, but for Shift, which some keyboards need for digits.
 inline bool IsPlain(const QKeyEvent& key) {
   return (key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == 0;

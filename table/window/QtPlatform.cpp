@@ -54,7 +54,7 @@ void QtPlatform::ShowModel(std::uint32_t pauseMs) {
   table_.ShowModel(Ticks(), pauseMs);
   helpAndAbout_.ShowModel();
   if (message_ == nullptr && MFormDeluxe.Visible)
-    message_ = std::make_unique<MessageWindow>(pending_, &table_);
+    message_ = std::make_unique<MessageWindow>(keyUse_, pending_, &table_);
   if (message_ == nullptr) return;
   if (MFormDeluxe.Visible && !message_->isVisible()) CloseMenus();
   message_->ShowModel(MFormDeluxe);

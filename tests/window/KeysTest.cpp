@@ -10,6 +10,7 @@
 #include "WindowGame.h"
 #include "engine/GameState.h"
 #include "table/CardDisplay.h"
+#include "table/MessageDialog.h"
 #include "table/TableEvents.h"
 
 namespace Parlino {
@@ -46,7 +47,6 @@ class KeyPlayer {
     ++hands;
     if (QApplication::activeModalWidget()->windowTitle() != "Game Over")
       return PressKey(Qt::Key_Return);
-    PressKey(Qt::Key_Right);
     PressKey(Qt::Key_Right);
     PressKey(Qt::Key_Space);
   }
@@ -380,6 +380,30 @@ TEST_F(UseOfKeysTest, OnlyKeysThatMoveTheMarkOrUseItCount) {
       EXPECT_TRUE(MarkIsSeen()) << "who plays by keys goes on";
       EXPECT_EQ(raised, "");
     }
+  }
+}
+
+// Whoever uses keys in the dialog plays by keys at the table, too, and so with the mouse.
+TEST_F(UseOfKeysTest, InTheDialogCountAtTheTableAndTheMouseThereDoes) {
+  const auto ask = [this](const std::function<void()>& act) {
+    game.platform.person = [&] {
+      if (!MFormDeluxe.Visible) return;
+      act();
+      Label1_Click(0);
+    };
+    ShowMessage("Shall we?", "Yes", "No", "", 3, "A question");
+    game.platform.person = [] {};
+    game.Turn();
+    QApplication::setActiveWindow(&game.Find("FrmMain"));
+  };
+  for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Left, Qt::Key_Return, Qt::Key_Space}) {
+    Click(game.Find("Table"));
+    ask([&] { PressKey(key); });
+    EXPECT_TRUE(MarkIsSeen()) << key;
+    ask([&] { QTest::mousePress(&game.Find("Label2"), Qt::LeftButton); });
+    EXPECT_FALSE(MarkIsSeen());
+    ask([&] { PressKey(Qt::Key_Escape); });
+    EXPECT_FALSE(MarkIsSeen());
   }
 }
 
