@@ -40,7 +40,7 @@ void AskForName(Integer seat) {
 void AskWhetherToExit() {
   ShowMessage(
       JoinText({PlayerName, " you are in the middle of a game, do you really wish to exit?"}),
-      "Yes Exit", "Carry On", "", 3, "Really Exit?");
+      "Yes Exit", "Carry On", "", 3, "Really Exit?", 1);
   if (MessageChoice == 0) UnloadAllForms();
 }
 
@@ -79,7 +79,7 @@ void MnuView_Click() {
 
 void ErasePoints_Click() {
   ShowMessage(JoinText({PlayerName, " Put number of games won and total played back to zero?"}),
-              "Yes Please", "Ooops No", "", 3, "Delete statistics?");
+              "Yes Please", "Ooops No", "", 3, "Delete statistics?", 1);
   if (MessageChoice != 0) return;
   GamesPlayed = 0;
   GamesWon = 0;

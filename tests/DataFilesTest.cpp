@@ -108,12 +108,14 @@ class CommandTest : public testing::Test {
     HeadlessGame::Load();
     game_.platform.script = [this](std::uint32_t) {
       title_ = MFormDeluxe.Label3;
+      marked_ = MFormDeluxe.Faces[MFormDeluxe.AnswerToMark].Label1;
       ClickAnswer(answer_);
     };
   }
 
   HeadlessGame game_;
   std::string title_;
+  std::string marked_;  // the answer at which the keys begin
   int answer_ = 0;
 };
 
@@ -172,6 +174,23 @@ TEST_F(CommandTest, LoadSaysWhatBecameOfAFileItCannotRead) {
       EXPECT_EQ(OurPoints, 5) << "a record is taken whole or not at all";
     }
   }
+}
+
+// Whoever presses Enter without a look loses nothing.
+TEST_F(CommandTest, TheKeysBeginAtTheAnswerThatChangesNothing) {
+  answer_ = 1;
+  GameInProgress = True;
+  constexpr std::pair<MenuItem, const char*> cases[] = {{MenuItem::MnuExit, "Carry On"},
+                                                        {MenuItem::ErasePoints, "Ooops No"}};
+  for (const auto& [item, marked] : cases) {
+    ChooseMenu(item);
+    EXPECT_EQ(marked_, marked);
+  }
+  CloseTableWindow();
+  EXPECT_EQ(marked_, "Carry On");
+  answer_ = 0;
+  ChooseMenu(MenuItem::MnuView);
+  EXPECT_EQ(marked_, "O.K");
 }
 
 TEST_F(CommandTest, AFileThatCannotBeWrittenIsSaidAndTheGameGoesOn) {

@@ -41,7 +41,7 @@ void PutBefore(const QWidget* window, QWidget& box) {
 }  // namespace
 
 QtPlatform::QtPlatform(const std::filesystem::path& folder)
-    : files_(folder), sound_(folder), table_(pending_), helpAndAbout_(pending_, table_) {}
+    : files_(folder), sound_(folder), table_(keyUse_, pending_), helpAndAbout_(pending_, table_) {}
 
 void QtPlatform::ProcessEvents(std::uint32_t atMostMs) {
   ShowModel(atMostMs);
@@ -54,7 +54,7 @@ void QtPlatform::ShowModel(std::uint32_t pauseMs) {
   table_.ShowModel(Ticks(), pauseMs);
   helpAndAbout_.ShowModel();
   if (message_ == nullptr && MFormDeluxe.Visible)
-    message_ = std::make_unique<MessageWindow>(pending_, &table_);
+    message_ = std::make_unique<MessageWindow>(keyUse_, pending_, &table_);
   if (message_ == nullptr) return;
   if (MFormDeluxe.Visible && !message_->isVisible()) CloseMenus();
   message_->ShowModel(MFormDeluxe);

@@ -10,6 +10,7 @@
 #include "platform/Platform.h"
 #include "table/window/EventPump.h"
 #include "table/window/HelpAndAboutWindows.h"
+#include "table/window/KeyUse.h"
 #include "table/window/MessageWindow.h"
 #include "table/window/PendingEvents.h"
 #include "table/window/Sound.h"
@@ -60,6 +61,7 @@ class QtPlatform : public Platform {
   Sound sound_;
   EventPump pump_;
   PendingEvents pending_;
+  KeyUse keyUse_;
   TableWindow table_;
   std::unique_ptr<MessageWindow> message_;  // made when the first message comes
   HelpAndAboutWindows helpAndAbout_;

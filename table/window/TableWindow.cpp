@@ -20,7 +20,7 @@
 
 namespace Parlino {
 
-TableWindow::TableWindow(PendingEvents& pending)
+TableWindow::TableWindow(KeyUse& keyUse, PendingEvents& pending)
     : pending_(pending),
       table_(new QWidget),
       room_(new ScrolledTable(table_, this)),
@@ -37,13 +37,13 @@ TableWindow::TableWindow(PendingEvents& pending)
   layout->setSizeConstraint(QLayout::SetNoConstraint);
   layout->setMenuBar(menus);
   layout->addWidget(room_);
-  BuildTable();
+  BuildTable(keyUse);
   // In less room the bar would put menus behind a button, whose menu runs a loop of the toolkit's
   // own: the game would stand still meanwhile.
   setMinimumWidth(menus->sizeHint().width());
 }
 
-void TableWindow::BuildTable() {
+void TableWindow::BuildTable(KeyUse& keyUse) {
   table_->setObjectName("Table");
   table_->setAccessibleName("Card table");
   table_->setFixedSize(ClientSize);
@@ -64,7 +64,7 @@ void TableWindow::BuildTable() {
   BuildPlayedList(bin);
   BuildScoreFrame(bin);
   BuildStatusBar(bin);
-  keys_.emplace(*table_, pending_);
+  keys_.emplace(*table_, keyUse, pending_);
   mirror_.KeepInFront(keys_->Mark());
 }
 
