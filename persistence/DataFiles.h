@@ -25,7 +25,7 @@ inline constexpr FirstRecord FirstRecords[] = {
 
 // Each reads its file into the game state, whole or not at all. A missing, unreadable or malformed
 // file raises a GameError that names it and the reason and leaves the state as it was; a malformed
-// one is first set aside under another name.
+// one is first set aside, and the error says where it is now.
 void ReadSaveGame();  // OurPoints, TheirPoints, GameInProgress
 void ReadNames();     // PlayerName, SeatNames[1..3]
 void ReadPoints();    // GamesWon, GamesPlayed
@@ -37,15 +37,17 @@ void WriteFirstRecords();
 // Puts what the file would hold in a new game into the game state.
 void UseFirstRecord(std::string_view file);
 
-// Each replaces its file by the values of the game state and returns whether it could. A file that
-// cannot be written is reported to the player in a plain message box; the values stay as they are.
+// Each replaces its file by the values of the game state and returns whether it could. A plain
+// message box tells the player of a file that cannot be written, and where an old one is kept that
+// could not be read. The values stay as they are.
 bool SaveGame();
 bool SavePoints();
 bool SaveNames();
 bool SaveWelcome();
 
 // Writes what SavePoints and SaveGame will write when the end of a game has been answered, while
-// its totals still stand. Says nothing when it cannot: the saving after the answer does.
+// its totals still stand. Says nothing when it cannot: the saving after the answer does. An old
+// file that could not be read is spoken of when both are written.
 void SaveEndedGame();
 
 }  // namespace Parlino

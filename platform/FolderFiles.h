@@ -27,19 +27,26 @@ class FolderFiles {
   [[nodiscard]] std::string Read(std::string_view fileName, std::size_t atMost = LongestRecord);
 
   // Writes a temporary file in the same folder, flushes it to the disk and renames it over the old
-  // one, so that whatever happens the file is the old or the new one whole. An old one that the
-  // last Read or SetAside failed on is first set aside: nobody has seen what is in it. Raises for
-  // content too long to be read again.
-  void Replace(std::string_view fileName, std::string_view content);
+  // one, so that whatever happens the file is the old or the new one whole. It keeps the
+  // permissions of the old one. A link stays: what lies at its end is replaced or made. An old file
+  // that the last Read or SetAside failed on is first set aside: nobody has seen what is in it.
+  // Returns the full path that such a file has now, otherwise nothing. Raises for content too long
+  // to be read again.
+  std::string Replace(std::string_view fileName, std::string_view content);
 
-  // Gives the file a free name: ".bad" is added, or ".bad2", ".bad3" and so on.
-  void SetAside(std::string_view fileName);
+  // Gives the file a free name: ".bad" is added, or ".bad2", ".bad3" and so on. Behind a link that
+  // happens where the file lies. Returns its full path.
+  std::string SetAside(std::string_view fileName);
 
   [[nodiscard]] bool Exists(std::string_view fileName) const;
 
  private:
-  // Returns whether the file has its old name as well.
-  bool KeepAside(std::string_view fileName, std::string_view action) const;
+  struct Aside {
+    std::filesystem::path path;
+    bool hasOldNameToo;
+  };
+  static Aside KeepAside(std::string_view fileName, const std::filesystem::path& path,
+                         std::string_view action);
 
   std::filesystem::path folder_;
   std::set<std::string, std::less<>> unread_;  // names of files not read though asked for

@@ -25,9 +25,6 @@ void AnswerCaption::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setPen(Colours::Yellow);
   painter.drawText(rect(), Qt::AlignCenter, text());
-  if (!hasFocus()) return;
-  painter.setPen(QPen(Colours::Yellow, 1, Qt::DotLine));
-  painter.drawRect(rect().adjusted(1, 1, -2, -2));
 }
 
 }  // namespace Parlino

@@ -8,17 +8,17 @@
 namespace Parlino {
 
 // Answers to Space and Enter while it has the focus, once however long they are held. All other
-// keys are left to what holds the button.
+// keys, and those two together with Ctrl or Alt, are left to what holds the button.
 class KeyButton : public QAbstractButton {
  public:
   using QAbstractButton::QAbstractButton;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override {
-    if (event->key() == Qt::Key_Space)
-      QAbstractButton::keyPressEvent(event);
-    else if (!IsEnter(*event))
+    if (!IsPlain(*event) || !IsEnterOrSpace(*event))
       event->ignore();
+    else if (!IsEnter(*event))
+      QAbstractButton::keyPressEvent(event);
     else if (!event->isAutoRepeat())
       click();
   }

@@ -1,6 +1,7 @@
 #include "table/window/MessageWindow.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QCloseEvent>
 #include <QPainter>
@@ -9,7 +10,6 @@
 #include "table/window/AnswerCaption.h"
 #include "table/window/Design.h"
 #include "table/window/Edges.h"
-#include "table/window/Keys.h"
 #include "table/window/Pictures.h"
 #include "table/window/TableParts.h"
 
@@ -60,8 +60,9 @@ void AnswerFace::paintEvent(QPaintEvent*) {
     DrawEdges(painter, rect(), Colours::EdgeLight, Colours::EdgeGrey);
 }
 
-MessageWindow::MessageWindow(PendingEvents& pending, QWidget* owner)
+MessageWindow::MessageWindow(KeyUse& keyUse, PendingEvents& pending, QWidget* owner)
     : QWidget(owner, Qt::Dialog | Qt::FramelessWindowHint),
+      keys_(keyUse, *this),
       title_(Named(new Speaking<CaptionLabel>(TextLook(1), this), "Label3")),
       prompt_(Named(new Speaking<CaptionLabel>(TextLook(0), this), "Label2")),
       picture_(Named(new Speaking<QLabel>(this), "Picture1")) {
@@ -70,8 +71,10 @@ MessageWindow::MessageWindow(PendingEvents& pending, QWidget* owner)
   speak = [this] { return Spoken{QAccessible::Dialog, windowTitle()}; };
   setWindowModality(Qt::ApplicationModal);
   setAttribute(Qt::WA_OpaquePaintEvent);
-  for (std::size_t answer = 0; answer < faces_.size(); ++answer)
+  for (std::size_t answer = 0; answer < faces_.size(); ++answer) {
     faces_[answer] = new AnswerFace(static_cast<int>(answer), pending, this);
+    keys_.Add(faces_[answer]->Caption());
+  }
 }
 
 void MessageWindow::ShowModel(const MessageDialogView& dialog) {
@@ -84,9 +87,10 @@ void MessageWindow::ShowModel(const MessageDialogView& dialog) {
   title_->ShowCaption(QString::fromStdString(dialog.Label3));
   prompt_->ShowCaption(QString::fromStdString(dialog.Label2));
   Place(dialog);
-  if (isVisible()) return;
-  setFocus();
-  show();
+  // Also where one question follows another at once, and the window stays.
+  if (std::exchange(showings_, dialog.Showings) != dialog.Showings)
+    keys_.Begin(dialog.AnswerToMark);
+  if (!isVisible()) show();
 }
 
 void MessageWindow::Place(const MessageDialogView& dialog) {
@@ -110,12 +114,25 @@ void MessageWindow::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), Colours::Black);
   DrawEdges(painter, rect().adjusted(1, 1, -1, -1), Colours::EdgeLight, Colours::EdgeGrey);
+  PaintMark(painter);
 }
 
-void MessageWindow::keyPressEvent(QKeyEvent* event) {
-  if (IsEnter(*event) && !event->isAutoRepeat()) return faces_[0]->Click();
-  if (event->key() == Qt::Key_Right || event->key() == Qt::Key_Down) focusNextChild();
-  if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Up) focusPreviousChild();
+// A frame round the answer and a pointer above it, as round a card: both are seen where colours are
+// not.
+void MessageWindow::PaintMark(QPainter& painter) const {
+  const QWidget* caption = keys_.MarkedCaption();
+  if (caption == nullptr) return;
+  const QRect face = caption->parentWidget()->geometry();
+  DrawEdges(painter, face.adjusted(-1, -1, 1, 1), Colours::Gold);
+  DrawEdges(painter, face.adjusted(-2, -2, 2, 2), Colours::Gold);
+  constexpr QPointF pointerHeight(0, 9);
+  constexpr QPointF halfOfPointer(8, 0);
+  const QPointF tip(QRectF(face).center().x(), face.top() - 3);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(Colours::Gold);
+  painter.drawPolygon(
+      QPolygonF{tip, tip - pointerHeight - halfOfPointer, tip - pointerHeight + halfOfPointer});
 }
 
 void MessageWindow::closeEvent(QCloseEvent* event) {

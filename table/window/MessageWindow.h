@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include "table/MessageDialog.h"
+#include "table/window/AnswerKeys.h"
 #include "table/window/CaptionLabel.h"
 #include "table/window/Speaker.h"
 
@@ -21,7 +22,7 @@ class AnswerFace : public QWidget {
   AnswerFace(int answer, PendingEvents& pending, QWidget* parent);
 
   void ShowModel(const ButtonFace& face);
-  void Click() { caption_->click(); }
+  [[nodiscard]] QAbstractButton& Caption() const { return *caption_; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -33,22 +34,24 @@ class AnswerFace : public QWidget {
 
 class MessageWindow : public QWidget, public Speaker {
  public:
-  MessageWindow(PendingEvents& pending, QWidget* owner);
+  MessageWindow(KeyUse& keyUse, PendingEvents& pending, QWidget* owner);
 
   void ShowModel(const MessageDialogView& dialog);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
   void Place(const MessageDialogView& dialog);
+  void PaintMark(QPainter& painter) const;
 
+  AnswerKeys keys_;
   CaptionLabel* title_;
   CaptionLabel* prompt_;
   QLabel* picture_;
   std::array<AnswerFace*, 3> faces_;
+  int showings_ = 0;  // as shown
 };
 
 // The font of everything in the dialog.

@@ -5,11 +5,13 @@
 #include <QEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QStyle>
 #include <QStyledItemDelegate>
 
 #include "table/window/Design.h"
 #include "table/window/Edges.h"
 #include "table/window/SpokenNames.h"
+#include "table/window/WrappedText.h"
 
 namespace Parlino {
 
@@ -48,7 +50,8 @@ class PlayedLines : public QAbstractListModel {
 
 namespace {
 
-// A name too long for the list is cut short, but the line between two tricks just runs out of it.
+// A name too long for the list is cut short, what was played never; the line between two tricks
+// just runs out of the list.
 class LineDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -57,6 +60,15 @@ class LineDelegate : public QStyledItemDelegate {
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
     if (option->text.startsWith('=')) option->textElideMode = Qt::ElideNone;
+    const qsizetype nameLength = option->text.lastIndexOf(" played ");
+    const int room = option->rect.width() - 2 * Margin(*option->widget);
+    if (nameLength > 0) option->text = ShortenName(option->text, nameLength, option->font, room);
+  }
+
+ private:
+  // What the style leaves free on each side of a line.
+  static int Margin(const QWidget& list) {
+    return list.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &list) + 1;
   }
 };
 

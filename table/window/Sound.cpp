@@ -1,7 +1,5 @@
 #include "table/window/Sound.h"
 
-#include <cstdint>
-
 #include <QLibrary>
 
 #include "table/CardDisplay.h"
@@ -9,8 +7,8 @@
 namespace Parlino {
 namespace {
 
-constexpr std::uint32_t OnlySound = 1;
-constexpr int FileNotFound = -9;
+constexpr int NoLibrary = -1;
+constexpr int DeviceIsBusy = -12;
 
 // The few entries of the library that are needed. It is opened by name, so that the program also
 // runs, in silence, where it is not installed.
@@ -78,22 +76,35 @@ bool Sound::Open() {
   return true;
 }
 
-void Sound::Start(std::string_view fileName) {
-  // A device may have come since: every deal asks once more.
-  if (fileName == ShuffleSound) isSilent_ = false;
-  if (isSilent_) return;
-  if (context_ == nullptr && !Open()) {
-    isSilent_ = true;
-    return;
-  }
-  TheLibrary().cancel(context_, OnlySound);
-  const std::string path = folder_ / fileName;
-  const int result = TheLibrary().play(context_, OnlySound, "media.filename", path.c_str(),
+int Sound::Play(const std::string& path) {
+  if (context_ == nullptr && !Open()) return NoLibrary;
+  const std::uint32_t next = playing_ == 1 ? 2 : 1;
+  const int result = TheLibrary().play(context_, next, "media.filename", path.c_str(),
                                        static_cast<const char*>(nullptr));
-  if (result == 0 || result == FileNotFound) return;
+  if (result != 0) return result;
+  TheLibrary().cancel(context_, playing_);
+  playing_ = next;
+  return result;
+}
+
+void Sound::Start(std::string_view fileName) {
+  // A device may have come since, and a file may have been mended.
+  if (fileName == ShuffleSound) passedOver_.clear();
+  if (passedOver_.contains(fileName)) return;
+  const std::filesystem::path path = folder_ / fileName;
+  std::error_code ignored;
+  // The library would wait for somebody to write into a pipe.
+  if (std::filesystem::is_regular_file(path, ignored)) {
+    int result = Play(path);
+    if (result == DeviceIsBusy) {
+      // The device may take one sound only; once the library is closed the last one has left it.
+      Close();
+      result = Play(path);
+    }
+    if (result == 0) return;
+  }
   // Asking for a device before every card costs time.
-  isSilent_ = true;
-  Close();
+  passedOver_.emplace(fileName);
 }
 
 }  // namespace Parlino

@@ -1,7 +1,11 @@
 // Sounds of the program's folder, played by the desktop's sound library where there is one.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
+#include <functional>
+#include <set>
+#include <string>
 #include <string_view>
 
 struct ca_context;
@@ -15,17 +19,21 @@ class Sound {
   Sound& operator=(const Sound&) = delete;
   ~Sound();
 
-  // Starts the file and returns; the sound still playing is cut off. The library is looked for at
-  // the first call. Without it, or without a sound device, this and all later calls do nothing.
+  // Starts the file and returns; the sound still playing is cut off. A file that cannot be played,
+  // for whatever reason, cuts nothing off and is passed over until the next deal, which begins with
+  // ShuffleSound. The library is looked for at the first call.
   void Start(std::string_view fileName);
 
  private:
   bool Open();
   void Close();
+  // Cuts off the sound before only when it could begin. Returns the library's number of the error.
+  int Play(const std::string& path);
 
   std::filesystem::path folder_;
   ca_context* context_ = nullptr;
-  bool isSilent_ = false;
+  std::uint32_t playing_ = 0;
+  std::set<std::string, std::less<>> passedOver_;
 };
 
 }  // namespace Parlino

@@ -14,6 +14,7 @@
 #include "table/TableEvents.h"
 #include "table/window/BidFace.h"
 #include "table/window/Design.h"
+#include "table/window/KeyUse.h"
 #include "table/window/Keys.h"
 #include "table/window/PendingEvents.h"
 #include "table/window/PictureView.h"
@@ -24,35 +25,6 @@ namespace {
 
 QWidget* FindMember(const QWidget& table, const char* array, int index) {
   return table.findChild<QWidget*>(MemberName(array, index));
-}
-
-bool IsModifier(const QKeyEvent& key) {
-  return key.key() >= Qt::Key_Shift && key.key() <= Qt::Key_ScrollLock;
-}
-
-// A key together with others is a command, but for Shift, which some keyboards need for digits.
-bool IsPlain(const QKeyEvent& key) {
-  return (key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == 0;
-}
-
-std::optional<int> DigitOf(const QKeyEvent& key) {
-  if (key.text().size() != 1 || !key.text().front().isDigit()) return std::nullopt;
-  return key.text().front().digitValue();
-}
-
-std::optional<Integer> SuitOf(const QKeyEvent& key) {
-  switch (key.key()) {
-    case Qt::Key_D:
-      return Diamonds;
-    case Qt::Key_C:
-      return Clubs;
-    case Qt::Key_H:
-      return Hearts;
-    case Qt::Key_S:
-      return Spades;
-    default:
-      return std::nullopt;
-  }
 }
 
 // The keys that always lead the same way.
@@ -72,18 +44,29 @@ constexpr Way<HandWalk> HandWays[] = {{Qt::Key_Left, &HandWalk::GoLeft},
                                       {Qt::Key_End, &HandWalk::GoToLast}};
 
 template <class Walk, std::size_t count>
-bool Go(Walk& walk, const Way<Walk> (&ways)[count], const QKeyEvent& key) {
+const Way<Walk>* FindWay(const Way<Walk> (&ways)[count], const QKeyEvent& key) {
   const auto* way = std::ranges::find(ways, key.key(), &Way<Walk>::key);
-  if (way == std::end(ways)) return false;
-  (walk.*way->go)();
-  return true;
+  return way == std::end(ways) ? nullptr : way;
+}
+
+template <class Walk, std::size_t count>
+bool Go(Walk& walk, const Way<Walk> (&ways)[count], const QKeyEvent& key) {
+  const Way<Walk>* way = FindWay(ways, key);
+  if (way != nullptr) (walk.*way->go)();
+  return way != nullptr;
+}
+
+// Those whose way depends on what may be played, or on what else is in the hand.
+bool GoesToSomeCard(const QKeyEvent& key) {
+  return key.key() == Qt::Key_Up || key.key() == Qt::Key_Down || SuitOf(key).has_value();
 }
 
 }  // namespace
 
-TableKeys::TableKeys(QWidget& table, PendingEvents& pending)
-    : table_(table), pending_(pending), mark_(&table) {
+TableKeys::TableKeys(QWidget& table, KeyUse& keyUse, PendingEvents& pending)
+    : table_(table), keyUse_(keyUse), pending_(pending), mark_(&table) {
   QCoreApplication::instance()->installEventFilter(this);
+  connect(&keyUse, &KeyUse::Changed, this, &TableKeys::ShowMarks);
 }
 
 void TableKeys::LeaveBidding() {
@@ -111,16 +94,8 @@ bool TableKeys::IsOnHand() const {
 
 bool TableKeys::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
-    case QEvent::MouseButtonPress:
-      NoteUse(false);
-      break;
-    case QEvent::ShortcutOverride:  // comes before every key, and goes on to the parents
-      if (watched == table_.window()->focusWidget()) NoteKey(static_cast<QKeyEvent&>(*event));
-      break;
     case QEvent::KeyPress:
-      if (watched == &table_ || watched == card_) return TakeKey(static_cast<QKeyEvent&>(*event));
-      if (watched == face_) return OnlyShowsMark(static_cast<QKeyEvent&>(*event));
-      break;
+      return Press(*watched, static_cast<QKeyEvent&>(*event));
     case QEvent::FocusIn:
       FollowFocus(*watched);
       [[fallthrough]];
@@ -147,29 +122,42 @@ void TableKeys::FollowFocus(const QObject& focus) {
   }
 }
 
+// A key comes to what has the focus first, and goes on to the parents.
+bool TableKeys::Press(const QObject& watched, const QKeyEvent& key) {
+  if (&watched == table_.window()->focusWidget()) NoteKey(key);
+  if (&watched == &table_ || &watched == card_) return TakeKey(key);
+  return &watched == face_ && OnlyShowsMark(key);
+}
+
 void TableKeys::NoteKey(const QKeyEvent& key) {
-  if (IsModifier(key)) return;
-  wasUnmarked_ = !keysAreUsed_;
-  NoteUse(true);
+  wasUnmarked_ = !keyUse_.IsOn();
+  if (UsesMark(key)) keyUse_.Begin();
+}
+
+// Whether the key moves the mark or uses it, where the focus is. All others are pressed by who
+// plays by mouse, too.
+bool TableKeys::UsesMark(const QKeyEvent& key) const {
+  const QWidget* focus = table_.window()->focusWidget();
+  if (!IsPlain(key) || (focus != &table_ && !table_.isAncestorOf(focus))) return false;
+  if (IsTab(key)) return true;
+  const bool isOnBids = dynamic_cast<const BidFace*>(focus) != nullptr;
+  if (!isOnBids && !IsOnHand()) return false;
+  if (IsEnterOrSpace(key)) return !key.isAutoRepeat();
+  if (isBidding_ && DigitOf(key)) return true;
+  return isOnBids ? FindWay(BidWays, key) != nullptr
+                  : FindWay(HandWays, key) != nullptr || GoesToSomeCard(key);
 }
 
 // Nobody bids or plays what was not marked: neither can be taken back.
 bool TableKeys::OnlyShowsMark(const QKeyEvent& key) const {
-  return wasUnmarked_ && (IsEnter(key) || key.key() == Qt::Key_Space);
-}
-
-// The mark is for whoever plays by the keys.
-void TableKeys::NoteUse(bool ofKeys) {
-  keysAreUsed_ = ofKeys;
-  ShowMark();
-  if (face_ != nullptr) face_->MarkFocus(ofKeys);
+  return wasUnmarked_ && IsEnterOrSpace(key);
 }
 
 bool TableKeys::TakeKey(const QKeyEvent& key) {
   if (!IsPlain(key)) return false;
   QWidget* focus = table_.window()->focusWidget();
   if (auto* button = dynamic_cast<QPushButton*>(focus); button != nullptr && IsEnter(key)) {
-    button->click();
+    if (!key.isAutoRepeat()) button->click();
     return true;
   }
   const bool isOnBids = dynamic_cast<BidFace*>(focus) != nullptr;
@@ -192,7 +180,7 @@ bool TableKeys::TakeBidKey(const QKeyEvent& key) {
 }
 
 bool TableKeys::TakeHandKey(const QKeyEvent& key) {
-  if (IsEnter(key) || key.key() == Qt::Key_Space) {
+  if (IsEnterOrSpace(key)) {
     PlayMarkedCard(key);
     return true;
   }
@@ -227,7 +215,7 @@ void TableKeys::MarkBid() {
   if (face_ != nullptr) face_->setFocusPolicy(Qt::ClickFocus);
   face_ = &dynamic_cast<BidFace&>(*FindMember(table_, "LblBids", bid_.Number()));
   face_->setFocusPolicy(Qt::StrongFocus);
-  face_->MarkFocus(keysAreUsed_);
+  face_->MarkFocus(keyUse_.IsOn());
 }
 
 void TableKeys::GoToBid() {
@@ -250,7 +238,7 @@ void TableKeys::GoToCard() {
 }
 
 void TableKeys::ShowMark() {
-  if (card_ == nullptr || !card_->hasFocus() || !keysAreUsed_) return mark_.hide();
+  if (card_ == nullptr || !card_->hasFocus() || !keyUse_.IsOn()) return mark_.hide();
   int seenWidth = card_->width();
   const CardSet after = PlayersRow().Between(hand_.Card() + 1, CardsInPack);
   if (!after.IsEmpty()) {
@@ -259,6 +247,11 @@ void TableKeys::ShowMark() {
   }
   mark_.Frame(card_->geometry(), seenWidth, CardsHumanMayPlay().Has(hand_.Card()));
   mark_.show();
+}
+
+void TableKeys::ShowMarks() {
+  ShowMark();
+  if (face_ != nullptr) face_->MarkFocus(keyUse_.IsOn());
 }
 
 }  // namespace Parlino

@@ -13,12 +13,13 @@ class QKeyEvent;
 namespace Parlino {
 
 class BidFace;
+class KeyUse;
 class PendingEvents;
 
 class TableKeys : public QObject {
  public:
-  // The table with all its parts.
-  TableKeys(QWidget& table, PendingEvents& pending);
+  // The table with all its parts. The marks are shown while `keyUse` is on.
+  TableKeys(QWidget& table, KeyUse& keyUse, PendingEvents& pending);
 
   // To be called before the table shows a change: the focus leaves a bidding panel that goes, so
   // that no tool reads where it would fall.
@@ -36,8 +37,9 @@ class TableKeys : public QObject {
 
  private:
   void FollowFocus(const QObject& focus);
+  bool Press(const QObject& watched, const QKeyEvent& key);
   void NoteKey(const QKeyEvent& key);
-  void NoteUse(bool ofKeys);
+  [[nodiscard]] bool UsesMark(const QKeyEvent& key) const;
   [[nodiscard]] bool OnlyShowsMark(const QKeyEvent& key) const;
   [[nodiscard]] bool IsOnHand() const;
   bool TakeKey(const QKeyEvent& key);
@@ -51,8 +53,10 @@ class TableKeys : public QObject {
   void MarkCard();
   void GoToCard();
   void ShowMark();
+  void ShowMarks();
 
   QWidget& table_;
+  KeyUse& keyUse_;
   PendingEvents& pending_;
   FocusMark mark_;
   HandWalk hand_;
@@ -60,7 +64,6 @@ class TableKeys : public QObject {
   QWidget* card_ = nullptr;  // shows the card that the keys have reached
   BidFace* face_ = nullptr;  // and the number
   bool isBidding_ = false;
-  bool keysAreUsed_ = false;
   bool wasUnmarked_ = true;  // when the last key was pressed
 };
 

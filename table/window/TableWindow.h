@@ -16,12 +16,13 @@
 
 namespace Parlino {
 
+class KeyUse;
 class PendingEvents;
 class ScrolledTable;
 
 class TableWindow : public QWidget, public Speaker {
  public:
-  explicit TableWindow(PendingEvents& pending);
+  TableWindow(KeyUse& keyUse, PendingEvents& pending);
 
   // Shows what has changed in the model, the window itself included, and the cards on their way.
   // `now` is a tick of the platform, `pauseMs` how long the game is about to pause.
@@ -36,7 +37,7 @@ class TableWindow : public QWidget, public Speaker {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  void BuildTable();
+  void BuildTable(KeyUse& keyUse);
   void FitToScreen();
   void FollowDesktop();
 

@@ -33,17 +33,12 @@ void BuildWelcomeText(const PartsBin& bin, const char* name, const Label& model,
   bin.mirror.Link(model, label, [label, &model] { label->ShowModel(model); });
 }
 
-// How far a name may run before it would meet the next thing beside it, in pixels. Before the first
-// deal there is more room for West's greeting, for North's cards are not there, and less for the
-// Player's name while the welcome button is.
+// How far a name may run before it would meet the next thing beside it, in pixels. The Player's has
+// less room while the welcome button is there.
 int RoomForName(int seat) {
-  constexpr int rooms[SeatsAtTable] = {166, 131, 354, 175};
+  constexpr int rooms[SeatsAtTable] = {166, 436, 354, 175};
   constexpr int roomBesideButton = 124;
-  constexpr int roomWithoutCards = 436;
-  const bool hasDealt = Table.Cds[CardsInPack].Visible || Table.LblTrumps.Visible;
-  if (seat == Player && Table.CmdDontShow.Visible) return roomBesideButton;
-  if (seat == West && !hasDealt) return roomWithoutCards;
-  return rooms[seat];
+  return seat == Player && Table.CmdDontShow.Visible ? roomBesideButton : rooms[seat];
 }
 
 void ShowName(CaptionLabel* label, int seat) {
@@ -70,11 +65,13 @@ void BuildWelcomePanel(const PartsBin& bin) {
 void BuildNames(const PartsBin& bin) {
   for (Integer seat = Player; seat <= East; ++seat) {
     const QFont font = seat == West ? WindowFont() : TimesBold(NamePoints, Slope::Italic);
-    const LabelLook look{Colours::LightYellow, font, Qt::AlignLeft};
+    const Ground ground = seat == West ? Ground::Strip : Ground::None;
+    const LabelLook look{Colours::LightYellow, font, Qt::AlignLeft, ground, Colours::Navy};
     auto* label = Named(new Speaking<CaptionLabel>(look, &bin.parent), MemberName("LblName", seat));
     label->speak = [seat] { return SpokenSeat(seat); };
     bin.mirror.Link(
         Table.LblName[seat], label, [label, seat] { ShowName(label, seat); }, Placing::Jumps);
+    if (seat == West) bin.mirror.KeepInFront(label);
   }
 }
 

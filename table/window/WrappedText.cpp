@@ -34,6 +34,14 @@ QStringList WrapText(const QString& text, const QFont& font, int width, int most
   return lines;
 }
 
+QString ShortenName(const QString& text, qsizetype nameLength, const QFont& font, int width) {
+  const QFontMetrics metrics(font);
+  if (metrics.horizontalAdvance(text) <= width) return text;
+  const QString rest = text.mid(nameLength);
+  const int room = width - metrics.horizontalAdvance(rest);
+  return metrics.elidedText(text.first(nameLength), Qt::ElideMiddle, room) + rest;
+}
+
 int LineHeight(const QFont& font) {
   return QFontMetrics(font).height();
 }

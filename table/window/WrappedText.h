@@ -17,6 +17,10 @@ inline constexpr QChar Ellipsis(0x2026);
 // single line in its middle, for what a name is followed by matters more than its end.
 QStringList WrapText(const QString& text, const QFont& font, int width, int mostLines);
 
+// The text with the name at its beginning cut short so that it fits into `width` pixels; what
+// follows the name stays whole.
+QString ShortenName(const QString& text, qsizetype nameLength, const QFont& font, int width);
+
 // The distance from one line to the next, in pixels.
 int LineHeight(const QFont& font);
 
