@@ -16,9 +16,9 @@
 #include <QWindow>
 
 #include "engine/state/Errors.h"
-#include "table/window/Design.h"
-#include "table/window/Pictures.h"
-#include "table/window/WrappedText.h"
+#include "table/window/painting/Design.h"
+#include "table/window/painting/Pictures.h"
+#include "table/window/painting/WrappedText.h"
 
 namespace Parlino {
 namespace {

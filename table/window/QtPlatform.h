@@ -8,13 +8,13 @@
 
 #include "platform/FolderFiles.h"
 #include "platform/Platform.h"
-#include "table/window/EventPump.h"
-#include "table/window/HelpAndAboutWindows.h"
-#include "table/window/KeyUse.h"
-#include "table/window/MessageWindow.h"
-#include "table/window/PendingEvents.h"
-#include "table/window/Sound.h"
 #include "table/window/TableWindow.h"
+#include "table/window/desktop/EventPump.h"
+#include "table/window/desktop/Sound.h"
+#include "table/window/dialog/MessageWindow.h"
+#include "table/window/help/HelpAndAboutWindows.h"
+#include "table/window/input/KeyUse.h"
+#include "table/window/input/PendingEvents.h"
 
 class QDialog;
 

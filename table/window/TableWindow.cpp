@@ -10,13 +10,13 @@
 
 #include "platform/Platform.h"
 #include "table/TableEvents.h"
-#include "table/window/Design.h"
-#include "table/window/PendingEvents.h"
-#include "table/window/Pictures.h"
-#include "table/window/ScrolledTable.h"
-#include "table/window/TableMenus.h"
-#include "table/window/TableParts.h"
-#include "table/window/WindowPlace.h"
+#include "table/window/desktop/ScrolledTable.h"
+#include "table/window/desktop/WindowPlace.h"
+#include "table/window/input/PendingEvents.h"
+#include "table/window/painting/Design.h"
+#include "table/window/painting/Pictures.h"
+#include "table/window/parts/TableMenus.h"
+#include "table/window/parts/TableParts.h"
 
 namespace Parlino {
 

@@ -7,12 +7,12 @@
 
 #include <QWidget>
 
-#include "table/window/DesktopMotion.h"
-#include "table/window/Glides.h"
-#include "table/window/Speaker.h"
-#include "table/window/SpokenParts.h"
-#include "table/window/TableKeys.h"
-#include "table/window/TableMirror.h"
+#include "table/window/desktop/DesktopMotion.h"
+#include "table/window/keys/TableKeys.h"
+#include "table/window/mirror/Glides.h"
+#include "table/window/mirror/TableMirror.h"
+#include "table/window/speaking/Speaker.h"
+#include "table/window/speaking/SpokenParts.h"
 
 namespace Parlino {
 

@@ -10,7 +10,7 @@
 #include "WindowGame.h"
 #include "engine/state/GameState.h"
 #include "table/MessageDialog.h"
-#include "table/window/Design.h"
+#include "table/window/painting/Design.h"
 
 namespace Parlino {
 namespace {

@@ -9,9 +9,9 @@
 #include "engine/StartUp.h"
 #include "engine/state/GameState.h"
 #include "table/CardDisplay.h"
-#include "table/window/Design.h"
-#include "table/window/SpokenNames.h"
-#include "table/window/WrappedText.h"
+#include "table/window/painting/Design.h"
+#include "table/window/painting/WrappedText.h"
+#include "table/window/speaking/SpokenNames.h"
 
 namespace Parlino {
 namespace {

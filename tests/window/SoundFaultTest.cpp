@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include "table/window/Sound.h"
+#include "table/window/desktop/Sound.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/window/FakeSoundLibrary.h"
 

@@ -6,7 +6,7 @@
 #include <QTextDocument>
 #include <QTextTable>
 
-#include "table/window/TextDocument.h"
+#include "table/window/help/TextDocument.h"
 
 namespace Parlino {
 namespace {
