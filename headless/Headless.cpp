@@ -104,20 +104,22 @@ std::string HeadlessPlatform::ReadFile(std::string_view fileName) {
   return file->second;
 }
 
-void HeadlessPlatform::ReplaceFile(std::string_view fileName, std::string_view content) {
+std::string HeadlessPlatform::ReplaceFile(std::string_view fileName, std::string_view content) {
   Note("written", fileName);
   if (!filesCanBeWritten)
     throw GameError(EROFS, JoinText({fileName, " cannot be written: Read-only file system"}));
   files.insert_or_assign(std::string(fileName), std::string(content));
+  return {};
 }
 
-void HeadlessPlatform::SetFileAside(std::string_view fileName) {
+std::string HeadlessPlatform::SetFileAside(std::string_view fileName) {
   std::string content = ReadFile(fileName);
   const std::string aside = std::string(fileName) + ".bad";
   std::string name = aside;
   for (int number = 2; files.contains(name); ++number) name = aside + std::to_string(number);
   files.emplace(name, std::move(content));
   files.erase(files.find(fileName));
+  return programFolder + name;
 }
 
 bool HeadlessPlatform::FileExists(std::string_view fileName) {

@@ -70,8 +70,8 @@ class HeadlessPlatform : public Platform {
   ScreenSize Screen() override;
   void CloseWindow(WindowName window) override;
   std::string ReadFile(std::string_view fileName) override;
-  void ReplaceFile(std::string_view fileName, std::string_view content) override;
-  void SetFileAside(std::string_view fileName) override;
+  std::string ReplaceFile(std::string_view fileName, std::string_view content) override;
+  std::string SetFileAside(std::string_view fileName) override;
   bool FileExists(std::string_view fileName) override;
   std::string ProgramFolder() override { return programFolder; }
   std::string ReadDocument(std::string_view fileName) override { return ReadFile(fileName); }

@@ -15,10 +15,12 @@ class HeadlessInFolder : public HeadlessPlatform {
   explicit HeadlessInFolder(std::filesystem::path folder) : onDisk_(std::move(folder)) {}
 
   std::string ReadFile(std::string_view fileName) override { return onDisk_.Read(fileName); }
-  void ReplaceFile(std::string_view fileName, std::string_view content) override {
-    onDisk_.Replace(fileName, content);
+  std::string ReplaceFile(std::string_view fileName, std::string_view content) override {
+    return onDisk_.Replace(fileName, content);
   }
-  void SetFileAside(std::string_view fileName) override { onDisk_.SetAside(fileName); }
+  std::string SetFileAside(std::string_view fileName) override {
+    return onDisk_.SetAside(fileName);
+  }
   bool FileExists(std::string_view fileName) override { return onDisk_.Exists(fileName); }
 
  private:

@@ -54,13 +54,12 @@ void TakeRecord(std::string_view file, std::string_view record) {
   return TakeWelcome(record);
 }
 
-// What the report adds about a malformed file that could not even be renamed.
+// Sets a malformed file aside and says where it is now, or why that was not possible.
 std::string SetAside(std::string_view file) {
   try {
-    ThePlatform().SetFileAside(file);
-    return {};
+    return JoinText({"The file is kept as ", ThePlatform().SetFileAside(file)});
   } catch (const GameError& error) {
-    return JoinText({". ", error.what()});
+    return error.what();
   }
 }
 
@@ -72,9 +71,19 @@ RecordWriter SaveGameRecord(Integer ours, Integer theirs, Flag inProgress) {
   return RecordWriter().Add(ours).Add(theirs).AddFlag(inProgress);
 }
 
+// Something of the player's has been moved: `keptAs` is where, empty when nothing was.
+void TellWhereOldOneIs(std::string_view file, std::string_view keptAs) {
+  if (keptAs.empty()) return;
+  ThePlatform().MsgBox(JoinText({file,
+                                 " could not be read and has been replaced. The file that was "
+                                 "there is kept as ",
+                                 keptAs}),
+                       ApplicationTitle, false);
+}
+
 bool WriteRecord(std::string_view file, const RecordWriter& record) {
   try {
-    ThePlatform().ReplaceFile(file, record.Line());
+    TellWhereOldOneIs(file, ThePlatform().ReplaceFile(file, record.Line()));
     return true;
   } catch (const GameError& error) {
     ThePlatform().MsgBox(error.what(), ApplicationTitle, false);
@@ -89,8 +98,8 @@ void ReadRecord(std::string_view file) {
   try {
     TakeRecord(file, record);
   } catch (const GameError& error) {
-    throw GameError(error.Number(),
-                    JoinText({file, " cannot be understood: ", error.what(), SetAside(file)}));
+    throw GameError(error.Number(), JoinText({file, " cannot be understood: ", error.what(), ". ",
+                                              SetAside(file)}));
   }
 }
 
@@ -108,12 +117,16 @@ bool SavePoints() {
 }
 
 void SaveEndedGame() {
+  std::string oldPoints;
+  std::string oldGame;
   try {
-    ThePlatform().ReplaceFile(PointsFile, PointsRecord().Line());
-    ThePlatform().ReplaceFile(SaveGameFile, SaveGameRecord(0, 0, False).Line());
+    oldPoints = ThePlatform().ReplaceFile(PointsFile, PointsRecord().Line());
+    oldGame = ThePlatform().ReplaceFile(SaveGameFile, SaveGameRecord(0, 0, False).Line());
   } catch (const GameError&) {
-    return;
+    // the saving after the answer says so
   }
+  TellWhereOldOneIs(PointsFile, oldPoints);
+  TellWhereOldOneIs(SaveGameFile, oldGame);
 }
 
 bool SaveNames() {

@@ -27,15 +27,15 @@ inline constexpr FirstRecord FirstRecords[] = {
 
 // Reads one of the four files into the game state, whole or not at all. A missing, unreadable or
 // malformed file raises a GameError that names it and the reason and leaves the state as it was; a
-// malformed one is first set aside under another name.
+// malformed one is first set aside, and the error says where it is now.
 void ReadRecord(std::string_view file);
 
 // Sets the game state to what the file holds when the game is new.
 void UseFirstRecord(std::string_view file);
 
 // Each replaces its file with the values of the game state and returns whether that succeeded. A
-// file that cannot be written is reported to the player in a plain message box; the values stay as
-// they are.
+// plain message box tells the player when a file cannot be written, and where an old one that could
+// not be read is kept. The values stay as they are.
 bool SaveGame();
 bool SavePoints();
 bool SaveNames();
@@ -43,7 +43,8 @@ bool SaveWelcome();
 
 // Writes what SavePoints and SaveGame will write once the player has answered the dialog at the end
 // of a game; until then the totals stay. A failure is not reported here: the saving after the
-// answer reports it.
+// answer reports it. Where an old file that could not be read is kept is told once both are
+// written.
 void SaveEndedGame();
 
 }  // namespace Parlino

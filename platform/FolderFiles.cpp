@@ -5,11 +5,11 @@
 #include <chrono>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <system_error>
 #include <unistd.h>
 #include <utility>
 
 #include "engine/state/Errors.h"
+#include "platform/FilePlace.h"
 
 namespace Parlino {
 namespace {
@@ -18,14 +18,6 @@ namespace fs = std::filesystem;
 
 // Stands between a record's name and the random end of its temporary file's name.
 constexpr std::string_view TemporaryMark = ".saving-";
-
-[[noreturn]] void RaiseSystemError(std::string_view fileName, std::string_view action, int number) {
-  throw GameError(number, std::string(fileName)
-                              .append(" cannot be ")
-                              .append(action)
-                              .append(": ")
-                              .append(std::generic_category().message(number)));
-}
 
 class Descriptor {
  public:
@@ -95,8 +87,7 @@ std::string ReadWhole(std::string_view fileName, const fs::path& path, std::size
   if (!file.IsOpen()) RaiseSystemError(fileName, "read", errno);
   struct stat kind {};
   if (::fstat(file.Number(), &kind) != 0) RaiseSystemError(fileName, "read", errno);
-  if (S_ISDIR(kind.st_mode)) RaiseSystemError(fileName, "read", EISDIR);
-  if (!S_ISREG(kind.st_mode)) RaiseSystemError(fileName, "read", EINVAL);
+  ExpectFile(fileName, "read", kind);
   std::string content;
   std::array<char, 4096> part;
   while (true) {
@@ -110,14 +101,14 @@ std::string ReadWhole(std::string_view fileName, const fs::path& path, std::size
 }
 
 // Writes the content to a file beside the record and flushes it to the disk. Returns its path.
-std::string WriteTemporary(std::string_view fileName, const fs::path& path,
+std::string WriteTemporary(std::string_view fileName, const FilePlace& place,
                            std::string_view content) {
   // Each writer needs a name of its own: two games in one folder must not share a temporary file.
-  std::string temporary = path.string().append(TemporaryMark).append("XXXXXX");
+  std::string temporary = place.path.string().append(TemporaryMark).append("XXXXXX");
   Descriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
   if (!file.IsOpen()) RaiseSystemError(fileName, "written", errno);
-  constexpr mode_t readableByAll = 0644;
-  static_cast<void>(::fchmod(file.Number(), readableByAll));  // some disks have none
+  // On a disk without permissions the file stays as it was made, its owner's alone.
+  static_cast<void>(::fchmod(file.Number(), PermissionsFor(place, file.Number())));
   const bool written = WriteAll(file.Number(), content) && FlushFile(file.Number()) && file.Close();
   if (written) return temporary;
   const int number = errno;
@@ -135,14 +126,16 @@ std::string FolderFiles::Read(std::string_view fileName, std::size_t atMost) {
   return content;
 }
 
-void FolderFiles::Replace(std::string_view fileName, std::string_view content) {
+std::string FolderFiles::Replace(std::string_view fileName, std::string_view content) {
   if (content.size() > LongestRecord) RaiseSystemError(fileName, "written", EFBIG);
-  const fs::path path = folder_ / fileName;
-  const std::string temporary = WriteTemporary(fileName, path, content);
+  const FilePlace place = FindPlace(fileName, folder_ / fileName, "written");
+  const fs::path& path = place.path;
+  const std::string temporary = WriteTemporary(fileName, place, content);
   const auto unread = unread_.find(fileName);
+  std::string aside;
   try {
     if (unread != unread_.end() && IsThere(fileName, path, "written"))
-      KeepAside(fileName, "written");
+      aside = fs::absolute(KeepAside(fileName, path, "written").path);
     if (::rename(temporary.c_str(), path.c_str()) != 0)
       RaiseSystemError(fileName, "written", errno);
   } catch (const GameError&) {
@@ -153,32 +146,34 @@ void FolderFiles::Replace(std::string_view fileName, std::string_view content) {
   // Makes the rename survive a power cut; the record is complete either way.
   FlushFolder(path.parent_path());
   RemoveAbandoned(path);
+  return aside;
 }
 
-void FolderFiles::SetAside(std::string_view fileName) {
+std::string FolderFiles::SetAside(std::string_view fileName) {
   const auto unread = unread_.emplace(fileName).first;
-  const bool isStillThere = KeepAside(fileName, "set aside");
-  if (isStillThere && ::unlink((folder_ / fileName).c_str()) != 0)
+  const fs::path path = FindPlace(fileName, folder_ / fileName, "set aside").path;
+  const Aside aside = KeepAside(fileName, path, "set aside");
+  if (aside.hasOldNameToo && ::unlink(path.c_str()) != 0)
     RaiseSystemError(fileName, "set aside", errno);
   unread_.erase(unread);
+  return fs::absolute(aside.path);
 }
 
 // A hard link leaves the file under a name at every moment and never replaces another game's file.
 // On a file system without hard links the file is renamed.
-bool FolderFiles::KeepAside(std::string_view fileName, std::string_view action) const {
-  const fs::path path = folder_ / fileName;
-  const std::string aside = path.string() + ".bad";
-  std::string name = aside;
+FolderFiles::Aside FolderFiles::KeepAside(std::string_view fileName, const fs::path& path,
+                                          std::string_view action) {
+  fs::path name = AsideName(path, 1);
   std::error_code ignored;
   for (int number = 2; ::link(path.c_str(), name.c_str()) != 0; ++number) {
     if (errno != EEXIST && !IsThere(fileName, name, action)) {
-      if (::rename(path.c_str(), name.c_str()) == 0) return false;
+      if (::rename(path.c_str(), name.c_str()) == 0) return {name, false};
       RaiseSystemError(fileName, action, errno);
     }
-    if (fs::equivalent(path, name, ignored)) return true;
-    name = aside + std::to_string(number);
+    if (fs::equivalent(path, name, ignored)) break;
+    name = AsideName(path, number);
   }
-  return true;
+  return {name, true};
 }
 
 bool FolderFiles::Exists(std::string_view fileName) const {

@@ -79,11 +79,11 @@ class Platform {
   // The same for a file that may be much longer than a record.
   virtual std::string ReadDocument(std::string_view fileName) = 0;
   // Replaces the file completely or leaves it as it was. A file that could not be read is first set
-  // aside.
-  virtual void ReplaceFile(std::string_view fileName, std::string_view content) = 0;
+  // aside. Returns the full path that such a file has now, otherwise nothing.
+  virtual std::string ReplaceFile(std::string_view fileName, std::string_view content) = 0;
   // Renames the file so that nothing overwrites it: ".bad" is added, and a number if that name is
-  // taken.
-  virtual void SetFileAside(std::string_view fileName) = 0;
+  // taken. Returns its full path.
+  virtual std::string SetFileAside(std::string_view fileName) = 0;
   virtual bool FileExists(std::string_view fileName) = 0;
 
   // A key that is opened must be closed. A platform without a registry opens none.

@@ -52,13 +52,15 @@ void LayOutMessageDialog(MessageDialogView& dialog, int promptHeight, int screen
 
 void ShowMessage(std::string_view prompt, std::string_view firstButton,
                  std::string_view secondButton, std::string_view thirdButton, Integer pictureNumber,
-                 std::string_view title) {
+                 std::string_view title, Integer answerToMark) {
   MFormDeluxe.Label2 = prompt;
   MFormDeluxe.Label3 = JoinText({"   ", title});
   MFormDeluxe.Faces[0].Label1 = firstButton;
   MFormDeluxe.Faces[1].Label1 = secondButton;
   MFormDeluxe.Faces[2].Label1 = thirdButton;
   MFormDeluxe.Picture = pictureNumber;
+  MFormDeluxe.AnswerToMark = answerToMark;
+  ++MFormDeluxe.Showings;
   const ScreenSize screen = ThePlatform().Screen();
   LayOutMessageDialog(MFormDeluxe, ThePlatform().PromptHeight(prompt, PromptWidth), screen.width,
                       screen.height);

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "engine/state/Errors.h"
 #include "engine/state/Indexed.h"
 
 namespace Parlino {
@@ -26,7 +27,9 @@ struct ButtonFace {
 struct MessageDialogView {
   bool Visible = false;
   bool IsWaiting = false;  // from being shown until the game goes on with the answer
-  int Left = 0;            // of the window on the screen, twips
+  int Showings = 0;        // with each the keys begin again at AnswerToMark
+  Integer AnswerToMark = 0;
+  int Left = 0;  // of the window on the screen, twips
   int Top = 0;
   int Width = 4500;
   int Height = 2000;
@@ -49,10 +52,11 @@ void LayOutMessageDialog(MessageDialogView& dialog, int promptHeight, int screen
 // Shows the dialog and waits for the answer, which MessageChoice then holds: 0 for the first
 // button, 1 for the second, 2 for the third. A button with an empty caption is not shown, except
 // the first; no dialog has a third one yet. `pictureNumber` is 1..3. The table takes no input
-// meanwhile.
+// meanwhile. The keys begin at `answerToMark`, which is never an answer that ends the program or
+// erases something.
 void ShowMessage(std::string_view prompt, std::string_view firstButton,
                  std::string_view secondButton, std::string_view thirdButton, Integer pictureNumber,
-                 std::string_view title);
+                 std::string_view title, Integer answerToMark = 0);
 
 // The dialog's events: the button `index` 0..2 is pressed down; it is clicked, which is the answer.
 void Label1_MouseDown(Integer index);

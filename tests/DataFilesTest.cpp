@@ -108,12 +108,14 @@ class CommandTest : public testing::Test {
     HeadlessGame::Load();
     game_.platform.script = [this](std::uint32_t) {
       title_ = MFormDeluxe.Label3;
+      marked_ = MFormDeluxe.Faces[MFormDeluxe.AnswerToMark].Label1;
       ClickAnswer(answer_);
     };
   }
 
   HeadlessGame game_;
   std::string title_;
+  std::string marked_;  // the answer at which the keys begin
   int answer_ = 0;
 };
 
@@ -143,6 +145,52 @@ TEST_F(CommandTest, ErasesTheStatisticsOnlyOnYes) {
     EXPECT_EQ(GamesPlayed, answer == 0 ? 0 : 7);
     EXPECT_EQ(game_.platform.files["Points.dat"], answer == 0 ? "0,0\r\n" : "3,7\r\n");
   }
+}
+
+// Only a file that is there is spoken of; the dialog comes in every case, and then a hand.
+TEST_F(CommandTest, LoadSaysWhatBecameOfAFileItCannotRead) {
+  struct {
+    const char* content;  // nullptr removes the file
+    const char* box;
+  } const cases[] = {
+      {nullptr, nullptr},
+      {"0,0,#FALSE#\r\n", nullptr},
+      {"150,-20,TRUE\r\n",
+       "box: Parlino: SaveGame.dat cannot be understood: field 3 is neither #TRUE# nor #FALSE#. "
+       "The file is kept as /parlino/SaveGame.dat.bad"}};
+  for (const auto& example : cases) {
+    game_.platform.record.clear();
+    OurPoints = 5;
+    if (example.content == nullptr)
+      game_.platform.files.erase("SaveGame.dat");
+    else
+      game_.platform.files["SaveGame.dat"] = example.content;
+    EXPECT_THROW(ChooseMenu(MenuItem::MnuLoad), ScriptHasNothingToSay);
+    EXPECT_EQ(title_, "   No saved game");
+    EXPECT_EQ(Recorded(game_.platform, "box: "), example.box != nullptr);
+    if (example.box != nullptr) {
+      EXPECT_EQ(game_.platform.record.front(), example.box);
+      EXPECT_EQ(game_.platform.files["SaveGame.dat.bad"], example.content);
+      EXPECT_EQ(OurPoints, 5) << "a record is taken whole or not at all";
+    }
+  }
+}
+
+// Whoever presses Enter without a look loses nothing.
+TEST_F(CommandTest, TheKeysBeginAtTheAnswerThatChangesNothing) {
+  answer_ = 1;
+  GameInProgress = True;
+  constexpr std::pair<MenuItem, const char*> cases[] = {{MenuItem::MnuExit, "Carry On"},
+                                                        {MenuItem::ErasePoints, "Ooops No"}};
+  for (const auto& [item, marked] : cases) {
+    ChooseMenu(item);
+    EXPECT_EQ(marked_, marked);
+  }
+  CloseTableWindow();
+  EXPECT_EQ(marked_, "Carry On");
+  answer_ = 0;
+  ChooseMenu(MenuItem::MnuView);
+  EXPECT_EQ(marked_, "O.K");
 }
 
 TEST_F(CommandTest, AFileThatCannotBeWrittenIsSaidAndTheGameGoesOn) {

@@ -132,6 +132,7 @@ TEST(WholeGame, EndsTheGameOnlyAtThreeHundredAndApart) {
     player.onDialog = [&] {
       EXPECT_EQ(MFormDeluxe.Label3, example.title) << example.what;
       EXPECT_EQ(MFormDeluxe.Picture, example.picture) << example.what;
+      EXPECT_EQ(MFormDeluxe.AnswerToMark, 0) << "the first neither ends the program nor saves";
       EXPECT_EQ(game.platform.files["Points.dat"] != "0,0\r\n", over) << "the session may end now";
     };
     PlayLookingOn(game, player);

@@ -1,5 +1,7 @@
 #include "persistence/commands/PlayerCommands.h"
 
+#include <cerrno>
+
 #include "engine/RoundDriver.h"
 #include "engine/StartUp.h"
 #include "engine/state/GameState.h"
@@ -37,14 +39,17 @@ void AskForName(Integer seat) {
 void AskWhetherToExit() {
   ShowMessage(
       JoinText({PlayerName, " you are in the middle of a game, do you really wish to exit?"}),
-      "Yes Exit", "Carry On", "", 3, "Really Exit?");
+      "Yes Exit", "Carry On", "", 3, "Really Exit?", 1);
   if (MessageChoice == 0) UnloadAllForms();
 }
 
+// Without its file there is no saved game, and the dialog says no more than that. A file that is
+// there and cannot be read is something of the player's.
 bool ReadSavedGame() {
   try {
     ReadRecord(SaveGameFile);
-  } catch (const GameError&) {
+  } catch (const GameError& error) {
+    if (error.Number() != ENOENT) ThePlatform().MsgBox(error.what(), ApplicationTitle, false);
     return false;
   }
   return OurPoints != 0 && TheirPoints != 0 && GameInProgress == True;
@@ -73,7 +78,7 @@ void MnuView_Click() {
 
 void ErasePoints_Click() {
   ShowMessage(JoinText({PlayerName, " Put number of games won and total played back to zero?"}),
-              "Yes Please", "Ooops No", "", 3, "Delete statistics?");
+              "Yes Please", "Ooops No", "", 3, "Delete statistics?", 1);
   if (MessageChoice != 0) return;
   GamesPlayed = 0;
   GamesWon = 0;

@@ -16,9 +16,9 @@
 #include <QWindow>
 
 #include "engine/state/Errors.h"
-#include "table/window/Design.h"
-#include "table/window/Pictures.h"
-#include "table/window/WrappedText.h"
+#include "table/window/painting/Design.h"
+#include "table/window/painting/Pictures.h"
+#include "table/window/painting/WrappedText.h"
 
 namespace Parlino {
 namespace {
@@ -41,7 +41,7 @@ void PutBefore(const QWidget* window, QWidget& box) {
 }  // namespace
 
 QtPlatform::QtPlatform(const std::filesystem::path& folder)
-    : files_(folder), sound_(folder), table_(pending_), helpAndAbout_(pending_, table_) {}
+    : files_(folder), sound_(folder), table_(keyUse_, pending_), helpAndAbout_(pending_, table_) {}
 
 void QtPlatform::ProcessEvents(std::uint32_t atMostMs) {
   ShowModel(atMostMs);
@@ -54,7 +54,7 @@ void QtPlatform::ShowModel(std::uint32_t pauseMs) {
   table_.ShowModel(Ticks(), pauseMs);
   helpAndAbout_.ShowModel();
   if (message_ == nullptr && MFormDeluxe.Visible)
-    message_ = std::make_unique<MessageWindow>(pending_, &table_);
+    message_ = std::make_unique<MessageWindow>(keyUse_, pending_, &table_);
   if (message_ == nullptr) return;
   if (MFormDeluxe.Visible && !message_->isVisible()) CloseMenus();
   message_->ShowModel(MFormDeluxe);
@@ -112,6 +112,8 @@ std::string QtPlatform::InputBox(std::string_view prompt, std::string_view title
   box.setWindowTitle(ToText(title));
   box.setLabelText(ToText(prompt));
   box.setTextValue(ToText(defaultAnswer));
+  box.setOkButtonText("OK");  // makes the buttons, which would otherwise come with the showing
+  box.setCancelButtonText("Cancel");
   box.findChild<QLineEdit*>()->setMinimumWidth(widthOfTitle);
   ShowAndWait(box);
   return box.result() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
@@ -121,6 +123,7 @@ void QtPlatform::MsgBox(std::string_view text, std::string_view title, bool crit
   QMessageBox box(critical ? QMessageBox::Critical : QMessageBox::NoIcon, ToText(title),
                   ToText(text), QMessageBox::Ok, OwnerOfBoxes());
   box.setTextFormat(Qt::PlainText);
+  box.button(QMessageBox::Ok)->setText("OK");
   ShowAndWait(box);
 }
 
@@ -151,12 +154,12 @@ std::string QtPlatform::ReadFile(std::string_view fileName) {
   return files_.Read(fileName);
 }
 
-void QtPlatform::ReplaceFile(std::string_view fileName, std::string_view content) {
-  files_.Replace(fileName, content);
+std::string QtPlatform::ReplaceFile(std::string_view fileName, std::string_view content) {
+  return files_.Replace(fileName, content);
 }
 
-void QtPlatform::SetFileAside(std::string_view fileName) {
-  files_.SetAside(fileName);
+std::string QtPlatform::SetFileAside(std::string_view fileName) {
+  return files_.SetAside(fileName);
 }
 
 bool QtPlatform::FileExists(std::string_view fileName) {

@@ -8,12 +8,13 @@
 
 #include "platform/FolderFiles.h"
 #include "platform/Platform.h"
-#include "table/window/EventPump.h"
-#include "table/window/HelpAndAboutWindows.h"
-#include "table/window/MessageWindow.h"
-#include "table/window/PendingEvents.h"
-#include "table/window/Sound.h"
 #include "table/window/TableWindow.h"
+#include "table/window/desktop/EventPump.h"
+#include "table/window/desktop/Sound.h"
+#include "table/window/dialog/MessageWindow.h"
+#include "table/window/help/HelpAndAboutWindows.h"
+#include "table/window/input/KeyUse.h"
+#include "table/window/input/PendingEvents.h"
 
 class QDialog;
 
@@ -36,8 +37,8 @@ class QtPlatform : public Platform {
   ScreenSize Screen() override;
   void CloseWindow(WindowName window) override;
   std::string ReadFile(std::string_view fileName) override;
-  void ReplaceFile(std::string_view fileName, std::string_view content) override;
-  void SetFileAside(std::string_view fileName) override;
+  std::string ReplaceFile(std::string_view fileName, std::string_view content) override;
+  std::string SetFileAside(std::string_view fileName) override;
   bool FileExists(std::string_view fileName) override;
   std::string ProgramFolder() override;
   std::string ReadDocument(std::string_view fileName) override;
@@ -60,6 +61,7 @@ class QtPlatform : public Platform {
   Sound sound_;
   EventPump pump_;
   PendingEvents pending_;
+  KeyUse keyUse_;
   TableWindow table_;
   std::unique_ptr<MessageWindow> message_;  // made when the first message comes
   HelpAndAboutWindows helpAndAbout_;

@@ -1,6 +1,5 @@
 #include "table/window/TableWindow.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include <QCloseEvent>
@@ -9,18 +8,19 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
-#include "engine/state/ErrorReport.h"
+#include "platform/Platform.h"
 #include "table/TableEvents.h"
-#include "table/window/Design.h"
-#include "table/window/PendingEvents.h"
-#include "table/window/Pictures.h"
-#include "table/window/ScrolledTable.h"
-#include "table/window/TableMenus.h"
-#include "table/window/TableParts.h"
+#include "table/window/desktop/ScrolledTable.h"
+#include "table/window/desktop/WindowPlace.h"
+#include "table/window/input/PendingEvents.h"
+#include "table/window/painting/Design.h"
+#include "table/window/painting/Pictures.h"
+#include "table/window/parts/TableMenus.h"
+#include "table/window/parts/TableParts.h"
 
 namespace Parlino {
 
-TableWindow::TableWindow(PendingEvents& pending)
+TableWindow::TableWindow(KeyUse& keyUse, PendingEvents& pending)
     : pending_(pending),
       table_(new QWidget),
       room_(new ScrolledTable(table_, this)),
@@ -37,13 +37,13 @@ TableWindow::TableWindow(PendingEvents& pending)
   layout->setSizeConstraint(QLayout::SetNoConstraint);
   layout->setMenuBar(menus);
   layout->addWidget(room_);
-  BuildTable();
+  BuildTable(keyUse);
   // In less room the bar would put menus behind a button, whose menu runs a loop of the toolkit's
   // own: the game would stand still meanwhile.
   setMinimumWidth(menus->sizeHint().width());
 }
 
-void TableWindow::BuildTable() {
+void TableWindow::BuildTable(KeyUse& keyUse) {
   table_->setObjectName("Table");
   table_->setAccessibleName("Card table");
   table_->setFixedSize(ClientSize);
@@ -64,7 +64,7 @@ void TableWindow::BuildTable() {
   BuildPlayedList(bin);
   BuildScoreFrame(bin);
   BuildStatusBar(bin);
-  keys_.emplace(*table_, pending_);
+  keys_.emplace(*table_, keyUse, pending_);
   mirror_.KeepInFront(keys_->Mark());
 }
 
@@ -81,20 +81,12 @@ void TableWindow::ShowModel(std::uint32_t now, std::uint32_t pauseMs) {
   if (wasPainted_ && !desktop_) FollowDesktop();
 }
 
-// The middle of the screen. On one that is too small the menu is what must be seen.
 void TableWindow::FitToScreen() {
-  constexpr QSize roomForFrame(2, 40);
-  const QRect screenRoom = screen()->availableGeometry();
-  const QSize room = screenRoom.size() - roomForFrame;
   layout()->activate();  // gives the menu bar its height
   // A scale that is not whole may cost a pixel, for which there must be no scroll bars.
   const int spare = devicePixelRatioF() == std::floor(devicePixelRatioF()) ? 0 : 1;
-  resize(room_->WindowSize(size() - room_->size() + QSize(spare, spare), room));
-  const QPoint middle = screenRoom.center() - rect().center();
-  const QPoint lowest = screenRoom.bottomRight() - rect().bottomRight() -
-                        QPoint(roomForFrame.width(), roomForFrame.height());
-  move(std::max(screenRoom.left(), std::min(middle.x(), lowest.x())),
-       std::max(screenRoom.top(), std::min(middle.y(), lowest.y())));
+  const QSize around = size() - room_->size() + QSize(spare, spare);
+  PutInMiddleOfScreen(*this, room_->WindowSize(around, RoomForWindow(*screen())), *screen());
 }
 
 // Comes after the table has been seen for the first time: nobody waits for it.

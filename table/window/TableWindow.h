@@ -7,21 +7,22 @@
 
 #include <QWidget>
 
-#include "table/window/DesktopMotion.h"
-#include "table/window/Glides.h"
-#include "table/window/Speaker.h"
-#include "table/window/SpokenParts.h"
-#include "table/window/TableKeys.h"
-#include "table/window/TableMirror.h"
+#include "table/window/desktop/DesktopMotion.h"
+#include "table/window/keys/TableKeys.h"
+#include "table/window/mirror/Glides.h"
+#include "table/window/mirror/TableMirror.h"
+#include "table/window/speaking/Speaker.h"
+#include "table/window/speaking/SpokenParts.h"
 
 namespace Parlino {
 
+class KeyUse;
 class PendingEvents;
 class ScrolledTable;
 
 class TableWindow : public QWidget, public Speaker {
  public:
-  explicit TableWindow(PendingEvents& pending);
+  TableWindow(KeyUse& keyUse, PendingEvents& pending);
 
   // Shows what has changed in the model, the window itself included, and the cards on their way.
   // `now` is a tick of the platform, `pauseMs` how long the game is about to pause.
@@ -36,7 +37,7 @@ class TableWindow : public QWidget, public Speaker {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  void BuildTable();
+  void BuildTable(KeyUse& keyUse);
   void FitToScreen();
   void FollowDesktop();
 

@@ -62,6 +62,8 @@ ssize_t __real_read(int file, void* bytes, size_t count);
 int __real_fchmod(int file, mode_t mode);
 int __real_fstat(int file, struct stat* kind);
 int __real_lstat(const char* path, struct stat* kind);
+int __real_stat(const char* path, struct stat* kind);
+ssize_t __real_readlink(const char* path, char* text, size_t length);
 int __real_close(int file);
 int __real_link(const char* from, const char* to);
 int __real_rename(const char* from, const char* to);
@@ -101,6 +103,14 @@ int __wrap_fstat(int file, struct stat* kind) {
 
 int __wrap_lstat(const char* path, struct stat* kind) {
   return CallFails("lstat") ? -1 : __real_lstat(path, kind);
+}
+
+int __wrap_stat(const char* path, struct stat* kind) {
+  return CallFails("stat") ? -1 : __real_stat(path, kind);
+}
+
+ssize_t __wrap_readlink(const char* path, char* text, size_t length) {
+  return CallFails("readlink") ? -1 : __real_readlink(path, text, length);
 }
 
 // As with the system's own, the number is free again even when it fails.

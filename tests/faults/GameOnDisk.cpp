@@ -12,9 +12,14 @@ namespace Parlino {
 
 namespace fs = std::filesystem;
 
-TestFolder::TestFolder(const Disk& files) {
+TestFolder::TestFolder(const Disk& files, bool behindLinks) : programFolder_(Path()) {
   Write(HandWrittenRecords);
   Write(files);
+  if (!behindLinks) return;
+  programFolder_ /= "program";
+  fs::create_directory(programFolder_);
+  for (const auto& [name, content] : HandWrittenRecords)
+    fs::create_symlink("../" + name, programFolder_ / name);
 }
 
 void TestFolder::Write(const Disk& files) const {
@@ -25,13 +30,21 @@ void TestFolder::Write(const Disk& files) const {
 Disk TestFolder::Files() const {
   Disk files;
   for (const auto& entry : fs::directory_iterator(Path())) {
+    if (entry.is_directory()) continue;
     std::ifstream file(entry.path(), std::ios::binary);
     files[entry.path().filename()] = {std::istreambuf_iterator<char>(file), {}};
   }
+  if (programFolder_ == Path()) return files;
+  std::size_t links = 0;
+  for (const auto& entry : fs::directory_iterator(programFolder_)) {
+    EXPECT_TRUE(entry.is_symlink()) << entry.path().filename() << " is no link";
+    ++links;
+  }
+  EXPECT_EQ(links, HandWrittenRecords.size());
   return files;
 }
 
-GameOnDisk::GameOnDisk(const TestFolder& folder) : platform(folder.Path()) {
+GameOnDisk::GameOnDisk(const TestFolder& folder) : platform(folder.ProgramFolder()) {
   SetUpGame(platform);
   DealGenerator.Seed(1);
   platform.keepsRecord = true;
@@ -39,6 +52,18 @@ GameOnDisk::GameOnDisk(const TestFolder& folder) : platform(folder.Path()) {
 
 bool GameOnDisk::Said(std::string_view text) const {
   return Recorded(platform, text);
+}
+
+std::set<std::string> GameOnDisk::ContentToldOf() const {
+  constexpr std::string_view words = " is kept as ";
+  std::set<std::string> contents;
+  for (const std::string& line : platform.record) {
+    const std::size_t place = line.find(words);
+    if (place == std::string::npos) continue;
+    std::ifstream file(line.substr(place + words.size()), std::ios::binary);
+    contents.emplace(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+  }
+  return contents;
 }
 
 bool StartsWell(const TestFolder& folder) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <string>
 
 #include "headless/HeadlessInFolder.h"
@@ -23,10 +24,16 @@ inline const Disk HandWrittenRecords = {
 // A folder with those records, but for the files given.
 class TestFolder : public TemporaryFolder {
  public:
-  explicit TestFolder(const Disk& files = {});
+  explicit TestFolder(const Disk& files = {}, bool behindLinks = false);
 
   void Write(const Disk& files) const;
+  // Where the records lie. It is a fault when the program's folder has not just its links.
   [[nodiscard]] Disk Files() const;
+  // Where they lie too, or one with a link to each.
+  [[nodiscard]] const std::filesystem::path& ProgramFolder() const { return programFolder_; }
+
+ private:
+  std::filesystem::path programFolder_;
 };
 
 // The game itself, set up afresh; its record tells what the player saw.
@@ -35,6 +42,8 @@ class GameOnDisk {
   explicit GameOnDisk(const TestFolder& folder);
 
   [[nodiscard]] bool Said(std::string_view text) const;
+  // What is in the files of which the player was told that they are kept under another name.
+  [[nodiscard]] std::set<std::string> ContentToldOf() const;
 
   HeadlessInFolder platform;
 };

@@ -58,6 +58,23 @@ constexpr Trouble Troubles[] = {
        fs::permissions(folder, fs::perms::owner_all);
      },
      "Permission denied", true},
+    {"a link leads into a folder that cannot be written",
+     [](const fs::path& folder) {
+       fs::create_directory(folder / "other");
+       fs::rename(folder / "Names2.dat", folder / "other" / "names");
+       fs::create_symlink("other/names", folder / "Names2.dat");
+       fs::permissions(folder, fs::perms::all);
+       fs::permissions(folder / "other", fs::perms::owner_read | fs::perms::owner_exec |
+                                             fs::perms::others_read | fs::perms::others_exec);
+       BecomeSomebodyElse();
+     },
+     [](const fs::path& folder) {
+       BecomeOneselfAgain();
+       fs::permissions(folder / "other", fs::perms::owner_all);
+       fs::rename(folder / "other" / "names", folder / "Names2.dat");
+       fs::remove(folder / "other");
+     },
+     "Permission denied", true},
     {"the folder is moved away",
      [](const fs::path& folder) { fs::rename(folder, folder.string() + "-away"); },
      [](const fs::path& folder) { fs::rename(folder.string() + "-away", folder); },

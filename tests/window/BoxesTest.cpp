@@ -1,16 +1,29 @@
 // The text-input box and the plain message box.
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
+#include <QApplication>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QProxyStyle>
 
 #include "WindowGame.h"
 #include "engine/state/GameState.h"
 
 namespace Parlino {
 namespace {
+
+// A desktop that puts pictures on the buttons of boxes.
+class PictureStyle : public QProxyStyle {
+ public:
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 1;
+    return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+};
 
 class Boxes : public testing::Test {
  protected:
@@ -60,6 +73,24 @@ TEST_F(Boxes, AMessageShowsItsTextAsItStands) {
     game.platform.MsgBox("<b>1 & 2</b>\nnext line", "Parlino", isCritical);
     EXPECT_EQ(OpenBox(), nullptr);
   }
+}
+
+TEST_F(Boxes, HaveBareButtonsOnEveryDesktop) {
+  const QString style = QApplication::style()->name();
+  QApplication::setStyle(new PictureStyle);
+  QStringList captions;
+  game.platform.person = [&captions] {
+    for (const QAbstractButton* button : OpenBox()->findChildren<QAbstractButton*>()) {
+      EXPECT_TRUE(button->icon().isNull()) << button->text().toStdString();
+      captions.append(button->text());
+    }
+    OpenBox()->accept();
+  };
+  game.platform.InputBox("prompt", "title", "default");
+  game.platform.MsgBox("text", "title", true);
+  captions.sort();
+  EXPECT_EQ(captions, QStringList({"Cancel", "OK", "OK"}));
+  QApplication::setStyle(style);
 }
 
 TEST_F(Boxes, WhatWasClickedBeforeTheBoxOpenedIsDropped) {

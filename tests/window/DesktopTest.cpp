@@ -2,13 +2,15 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTest>
 #include <QWindow>
 
 #include "WindowGame.h"
+#include "table/TableEvents.h"
 #include "table/TableView.h"
-#include "table/window/ScrolledTable.h"
+#include "table/window/desktop/ScrolledTable.h"
 
 namespace Parlino {
 namespace {
@@ -98,6 +100,22 @@ TEST_F(DesktopWindow, NothingOnTheTableIsRecolouredByADarkDesktop) {
   QApplication::setPalette(light);
   QApplication::setFont(font);
   EXPECT_TRUE(before == after);
+}
+
+// At a display with a window manager as well, which has frames with two sides that differ.
+TEST_F(DesktopWindow, EveryWindowOpensInTheMiddleFrameIncluded) {
+  game.platform.ReplaceFile("ParlinoHelp.rtf", "{\\rtf1 Rules}");
+  ChooseMenu(MenuItem::MnuRules);
+  ChooseMenu(MenuItem::MnuAbout);
+  game.Turn();
+  for (const char* name : {"FrmMain", "frmHelp", "frmAbout"}) {
+    const QWidget& opened = game.Find(name);
+    const QPoint middle = opened.screen()->availableGeometry().center();
+    const bool isThere = QTest::qWaitFor(
+        [&] { return (opened.frameGeometry().center() - middle).manhattanLength() <= 2; });
+    EXPECT_TRUE(isThere) << name << " is aside by "
+                         << (opened.frameGeometry().center() - middle).y();
+  }
 }
 
 // Windows of their own would leave lines of moving cards behind at scales that are not whole.

@@ -1,5 +1,6 @@
 // The message dialog: how it looks, and that only its buttons end it.
 #include <gtest/gtest.h>
+#include <utility>
 
 #include <QApplication>
 #include <QLabel>
@@ -9,7 +10,7 @@
 #include "WindowGame.h"
 #include "engine/state/GameState.h"
 #include "table/MessageDialog.h"
-#include "table/window/Design.h"
+#include "table/window/painting/Design.h"
 
 namespace Parlino {
 namespace {
@@ -40,16 +41,140 @@ TEST_F(Dialog, AnswersAreClicked) {
   }
 }
 
-TEST_F(Dialog, EnterIsTheFirstAnswerAndTabReachesTheSecond) {
-  EXPECT_EQ(Ask([] { PressKey(Qt::Key_Return); }), 0);
-  for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return}) {
-    EXPECT_EQ(Ask([key] {
-                PressKey(Qt::Key_Tab);
-                PressKey(Qt::Key_Tab);
-                PressKey(key);
-              }),
-              1);
+// By keys typed at once; -1 when they are no answer.
+class DialogKeys : public Dialog {
+ protected:
+  void SitDown(bool playsByKeys) {
+    Click(game.Find("Table"));
+    if (playsByKeys) PressKey(Qt::Key_Left);
   }
+  Integer AnswerByKeys(Integer answerToMark, std::initializer_list<Qt::Key> keys) {
+    return Answer(answerToMark, [keys] {
+      for (const Qt::Key key : keys) PressKey(key);
+    });
+  }
+  Integer Answer(Integer answerToMark, const std::function<void()>& act) {
+    bool hasActed = false;
+    bool isAnswered = true;
+    game.platform.person = [&] {
+      if (!std::exchange(hasActed, true)) return act();
+      isAnswered = false;
+      Label1_Click(0);
+    };
+    ShowMessage("Shall we?", "Yes", "No", "", 3, "A question", answerToMark);
+    game.platform.person = [] {};
+    return isAnswered ? MessageChoice : Integer{-1};
+  }
+};
+
+TEST_F(DialogKeys, TakeTheAnswerThatIsMarkedAndNoOther) {
+  using enum Qt::Key;
+  const struct {
+    bool playsByKeys;
+    Integer answerToMark;
+    std::initializer_list<Qt::Key> keys;
+    Integer answer;
+  } cases[] = {
+      {false, 1, {Key_Return}, -1},
+      {false, 1, {Key_Space}, -1},
+      {false, 1, {Key_Return, Key_Enter}, 1},
+      {false, 1, {Key_Space, Key_Space}, 1},
+      {false, 1, {Key_Tab, Key_Return}, 1},
+      {false, 1, {Key_Backtab, Key_Space}, 1},
+      {false, 1, {Key_Right, Key_Return}, 1},
+      {false, 1, {Key_Down, Key_Space}, 1},
+      {false, 1, {Key_Left, Key_Return}, 1},
+      {false, 1, {Key_Left, Key_Left, Key_Return}, 0},
+      {false, 1, {Key_Tab, Key_Tab, Key_Space}, 0},
+      {false, 1, {Key_Escape, Key_F2, Key_Y, Key_Return}, -1},
+      {false, 0, {Key_Return}, -1},
+      {false, 0, {Key_Right, Key_Return}, 0},
+      {false, 0, {Key_Right, Key_Right, Key_Return}, 1},
+      {true, 1, {Key_Return}, 1},
+      {true, 1, {Key_Space}, 1},
+      {true, 1, {Key_Right, Key_Return}, 1},
+      {true, 1, {Key_Left, Key_Return}, 0},
+      {true, 1, {Key_Up, Key_Down, Key_Space}, 1},
+      {true, 1, {Key_Tab, Key_Return}, 0},
+      {true, 1, {Key_Backtab, Key_Backtab, Key_Return}, 1},
+      {true, 1, {Key_Escape}, -1},
+      {true, 0, {Key_Enter}, 0},
+      {true, 0, {Key_Left, Key_Up, Key_Return}, 0},
+      {true, 0, {Key_Right, Key_Return}, 1},
+  };
+  for (const auto& example : cases) {
+    SitDown(example.playsByKeys);
+    EXPECT_EQ(AnswerByKeys(example.answerToMark, example.keys), example.answer)
+        << "case " << &example - cases;
+  }
+}
+
+// The window stays when one question follows another at once.
+TEST_F(DialogKeys, EachShowingBeginsAtItsOwnAnswer) {
+  SitDown(true);
+  EXPECT_EQ(AnswerByKeys(0, {Qt::Key_Return}), 0);
+  EXPECT_EQ(AnswerByKeys(1, {Qt::Key_Return}), 1);
+  EXPECT_EQ(AnswerByKeys(1, {Qt::Key_Tab, Qt::Key_Return}), 0);
+  game.Turn();
+  EXPECT_FALSE(game.Find("MFormDeluxe").isVisible());
+  EXPECT_EQ(AnswerByKeys(1, {Qt::Key_Return}), 1);
+  SitDown(false);
+  EXPECT_EQ(AnswerByKeys(1, {Qt::Key_Tab, Qt::Key_Return}), 1);
+}
+
+TEST_F(DialogKeys, AKeyThatWasDownBeforeMeansNothing) {
+  using enum Qt::Key;
+  for (const bool playsByKeys : {true, false}) {
+    for (const Qt::Key held : {Key_Return, Key_Enter, Key_Space, Key_Tab, Key_Left}) {
+      SitDown(playsByKeys);
+      const Integer answer = Answer(1, [held] {
+        QKeyEvent again(QEvent::KeyPress, held, Qt::NoModifier, "", true);
+        QApplication::sendEvent(QApplication::activeModalWidget()->focusWidget(), &again);
+        PressKey(Key_Return);
+      });
+      EXPECT_EQ(answer, playsByKeys ? 1 : -1) << held;
+    }
+  }
+  SitDown(true);
+  const auto captionOfYes = [this]() -> QWidget& { return game.FindMember("Label1", 0); };
+  Answer(0, [&] { QTest::keyPress(&captionOfYes(), Key_Space); });
+  EXPECT_EQ(Answer(0, [&] { QTest::keyRelease(&captionOfYes(), Key_Space); }), -1);
+}
+
+TEST_F(DialogKeys, WithCtrlOrAltAnswerNothing) {
+  SitDown(true);
+  EXPECT_EQ(Answer(0,
+                   [] {
+                     PressKey(Qt::Key_Return, Qt::ControlModifier);
+                     PressKey(Qt::Key_Space, Qt::AltModifier);
+                   }),
+            -1);
+}
+
+TEST_F(DialogKeys, TheMarkIsForThemAlone) {
+  const auto picture = [this] { return game.Find("MFormDeluxe").grab().toImage(); };
+  QImage plain, first, second, face, markedFace;
+  SitDown(false);
+  Answer(1, [&] {
+    plain = picture();
+    face = game.FindMember("Pic1", 1).grab().toImage();
+    PressKey(Qt::Key_Tab);
+    second = picture();
+    markedFace = game.FindMember("Pic1", 1).grab().toImage();
+    PressKey(Qt::Key_Tab);
+    first = picture();
+    QTest::mousePress(&game.Find("Label2"), Qt::LeftButton);
+    EXPECT_EQ(picture(), plain);
+  });
+  EXPECT_NE(first, plain);
+  EXPECT_NE(second, plain);
+  EXPECT_NE(first, second);
+  EXPECT_EQ(face, markedFace);
+  SitDown(true);
+  Answer(1, [&] {
+    QApplication::setActiveWindow(&game.Find("MFormDeluxe"));
+    EXPECT_EQ(picture(), second) << "opens with the mark";
+  });
 }
 
 TEST_F(Dialog, NothingElseClosesIt) {

@@ -13,9 +13,9 @@
 #include "engine/Deal.h"
 #include "engine/state/GameState.h"
 #include "table/CardDisplay.h"
-#include "table/window/Design.h"
-#include "table/window/DesktopMotion.h"
-#include "table/window/TableParts.h"
+#include "table/window/desktop/DesktopMotion.h"
+#include "table/window/painting/Design.h"
+#include "table/window/parts/TableParts.h"
 
 namespace Parlino {
 namespace {

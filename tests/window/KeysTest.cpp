@@ -1,6 +1,8 @@
 // The game played by the keys: whole games, and where the focus is meanwhile.
 #include <gtest/gtest.h>
+#include <utility>
 
+#include <QAction>
 #include <QApplication>
 #include <QListView>
 #include <QTest>
@@ -8,6 +10,7 @@
 #include "WindowGame.h"
 #include "engine/state/GameState.h"
 #include "table/CardDisplay.h"
+#include "table/MessageDialog.h"
 #include "table/TableEvents.h"
 
 namespace Parlino {
@@ -44,7 +47,6 @@ class KeyPlayer {
     ++hands;
     if (QApplication::activeModalWidget()->windowTitle() != "Game Over")
       return PressKey(Qt::Key_Return);
-    PressKey(Qt::Key_Right);
     PressKey(Qt::Key_Right);
     PressKey(Qt::Key_Space);
   }
@@ -127,6 +129,7 @@ class TableKeysTest : public testing::Test {
     raised.clear();
     Events.Cds_Click = [](Integer card) { raised += "card " + std::to_string(card) + " "; };
     Events.LblBids_Click = [](Integer tricks) { raised += "bid " + std::to_string(tricks) + " "; };
+    for (auto& handler : Events.MenuClick) handler = [] {};
     PlacePackDeal();
     for (const int card : {5, 18, 31, 44}) Pack[card].Owner = Player;
     ShowPlayerHand();
@@ -293,6 +296,139 @@ TEST_F(TableKeysTest, TheMarkIsForTheKeysAndFramesWhatIsSeenOfTheCard) {
   const QPoint place = mark.pos();
   game.Find("Cds(5)").move(game.Find("Cds(5)").pos() + QPoint(7, 0));
   EXPECT_EQ(mark.pos(), place + QPoint(7, 0));
+}
+
+// Where the focus is when a key is pressed.
+enum Place { OnBid, OnCard, OnList };
+
+struct KeyCase {
+  Qt::Key key;
+  Qt::KeyboardModifiers modifiers = {};
+  bool counts[3] = {false, false, false};  // on a bid, on a card, in the list
+};
+
+const KeyCase KeyCases[] = {
+    // Commands, and keys that mean nothing to the mark: a mouse player presses them, too.
+    {Qt::Key_F2},
+    {Qt::Key_F1},
+    {Qt::Key_Escape},
+    {Qt::Key_PageUp},
+    {Qt::Key_PageDown},
+    {Qt::Key_VolumeUp},
+    {Qt::Key_Q},
+    {Qt::Key_Shift, Qt::ShiftModifier},
+    {Qt::Key_Control, Qt::ControlModifier},
+    {Qt::Key_S, Qt::ControlModifier},
+    {Qt::Key_1, Qt::ControlModifier},
+    {Qt::Key_Left, Qt::AltModifier},
+    {Qt::Key_Right, Qt::MetaModifier},
+    {Qt::Key_Return, Qt::ControlModifier},
+    {Qt::Key_Space, Qt::ControlModifier},
+    // What moves the mark or uses it.
+    {Qt::Key_Left, {}, {true, true, false}},
+    {Qt::Key_Right, Qt::ShiftModifier, {true, true, false}},
+    {Qt::Key_Up, {}, {true, true, false}},
+    {Qt::Key_Down, Qt::KeypadModifier, {true, true, false}},
+    {Qt::Key_Home, {}, {true, true, false}},
+    {Qt::Key_End, {}, {true, true, false}},
+    {Qt::Key_7, {}, {true, true, false}},
+    {Qt::Key_H, {}, {false, true, false}},
+    {Qt::Key_Return, {}, {true, true, false}},
+    {Qt::Key_Enter, Qt::KeypadModifier, {true, true, false}},
+    {Qt::Key_Space, {}, {true, true, false}},
+    {Qt::Key_Tab, {}, {true, true, true}},
+    {Qt::Key_Backtab, Qt::ShiftModifier, {true, true, true}},
+};
+
+class UseOfKeysTest : public TableKeysTest {
+ protected:
+  UseOfKeysTest() {
+    AddLine(Table.LstCardsPlayed, {"West played"});
+    Show(Table.FramBids);
+    game.Turn();
+  }
+  void Press(const KeyCase& example, Place place) {
+    constexpr const char* names[] = {"LblBids(4)", "Cds(18)", "LstCardsPlayed"};
+    game.Find(names[place]).setFocus();
+    PressKey(example.key, example.modifiers);
+    game.Turn();
+  }
+  bool MarkIsSeen() {
+    game.Find("Cds(5)").setFocus();
+    return game.Find("FocusMark").isVisible();
+  }
+};
+
+TEST_F(UseOfKeysTest, OnlyKeysThatMoveTheMarkOrUseItCount) {
+  for (const KeyCase& example : KeyCases) {
+    for (const Place place : {OnBid, OnCard, OnList}) {
+      SCOPED_TRACE(QKeySequence(example.key).toString().toStdString() + " at place " +
+                   std::to_string(place));
+      raised.clear();
+      Click(game.Find("Table"));
+      Press(example, place);
+      EXPECT_EQ(MarkIsSeen(), example.counts[place]);
+      EXPECT_EQ(raised, "") << "nothing was marked";
+      if (example.counts[place]) continue;
+      for (const Place stray : {OnBid, OnCard}) {
+        Click(game.Find("Table"));
+        Press(example, place);
+        Press({Qt::Key_Return}, stray);
+        EXPECT_EQ(raised, "") << "the key before made a mark";
+      }
+      Press(example, place);
+      EXPECT_TRUE(MarkIsSeen()) << "who plays by keys goes on";
+      EXPECT_EQ(raised, "");
+    }
+  }
+}
+
+// Whoever uses keys in the dialog plays by keys at the table, too, and so with the mouse.
+TEST_F(UseOfKeysTest, InTheDialogCountAtTheTableAndTheMouseThereDoes) {
+  const auto ask = [this](const std::function<void()>& act) {
+    game.platform.person = [&] {
+      if (!MFormDeluxe.Visible) return;
+      act();
+      Label1_Click(0);
+    };
+    ShowMessage("Shall we?", "Yes", "No", "", 3, "A question");
+    game.platform.person = [] {};
+    game.Turn();
+    QApplication::setActiveWindow(&game.Find("FrmMain"));
+  };
+  for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Left, Qt::Key_Return, Qt::Key_Space}) {
+    Click(game.Find("Table"));
+    ask([&] { PressKey(key); });
+    EXPECT_TRUE(MarkIsSeen()) << key;
+    ask([&] { QTest::mousePress(&game.Find("Label2"), Qt::LeftButton); });
+    EXPECT_FALSE(MarkIsSeen());
+    ask([&] { PressKey(Qt::Key_Escape); });
+    EXPECT_FALSE(MarkIsSeen());
+  }
+}
+
+// The commonest start of all: everything but F2 is done by the mouse.
+TEST(Keys, F2AndTheMouseLeaveTheTableUnmarked) {
+  const auto pictureOfBids = [](bool isStartedByKey) {
+    WindowGame game;
+    QImage picture;
+    bool hasStarted = false;
+    game.Run([&] {
+      if (!std::exchange(hasStarted, true)) {
+        if (isStartedByKey) return PressKey(Qt::Key_F2);
+        return game.Find("FrmMain").findChild<QAction*>("MnuNew")->trigger();
+      }
+      if (game.Find("FramBids").isVisible()) {
+        picture = game.Find("FramBids").grab().toImage();
+        Click(game.Find("LblBids(3)"));
+      }
+      if (PlayerTurn == False) return;
+      EXPECT_FALSE(game.Find("FocusMark").isVisible());
+      throw SeenEnough{};
+    });
+    return picture;
+  };
+  EXPECT_EQ(pictureOfBids(true), pictureOfBids(false));
 }
 
 }  // namespace

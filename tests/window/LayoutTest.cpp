@@ -5,7 +5,7 @@
 
 #include "WindowGame.h"
 #include "table/TableView.h"
-#include "table/window/Design.h"
+#include "table/window/painting/Design.h"
 
 namespace Parlino {
 namespace {

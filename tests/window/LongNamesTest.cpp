@@ -2,16 +2,65 @@
 #include <gtest/gtest.h>
 
 #include <QLabel>
+#include <QListView>
 
 #include "WindowGame.h"
+#include "engine/Deal.h"
 #include "engine/StartUp.h"
 #include "engine/state/GameState.h"
-#include "table/window/Design.h"
-#include "table/window/SpokenNames.h"
-#include "table/window/WrappedText.h"
+#include "table/CardDisplay.h"
+#include "table/window/painting/Design.h"
+#include "table/window/painting/WrappedText.h"
+#include "table/window/speaking/SpokenNames.h"
 
 namespace Parlino {
 namespace {
+
+class ShortNames : public testing::Test {
+ protected:
+  ShortNames() {
+    game.Load();
+    Hide(Table.lblTitle);
+    Show(Table.Shape1);
+  }
+
+  void Deal() {
+    PlacePackDeal();
+    DealCards();
+    Hide(Table.CmdDontShow);
+  }
+
+  void ExpectWholeNames(const char* when) {
+    game.Turn();
+    for (int seat = Player; seat <= East; ++seat)
+      EXPECT_EQ(game.FindMember("LblName", seat).toolTip(), "") << when << ", " << seat;
+  }
+
+  QImage WestsName() {
+    game.Turn();
+    return game.Find("Table").grab(game.FindMember("LblName", West).geometry()).toImage();
+  }
+
+  WindowGame game;
+};
+
+// A new name is greeted whatever the table is doing.
+TEST_F(ShortNames, AreShownWholeWithAllThatIsSaidOfThem) {
+  ExpectWholeNames("before the first hand");
+  Deal();
+  ShowNames();
+  ExpectWholeNames("in a hand");
+  for (int seat = Player; seat <= East; ++seat)
+    SetCaption(Table.LblName[seat], {SeatNames[seat], " bids 13"});
+  ExpectWholeNames("after the bids");
+}
+
+TEST_F(ShortNames, AreNotHiddenByTheCardsThatTheyReach) {
+  const QImage beforeTheDeal = WestsName();
+  Deal();
+  ShowNames();
+  EXPECT_TRUE(WestsName() == beforeTheDeal);
+}
 
 TEST(LongNames, AreCutShortAtTheirNeighbours) {
   WindowGame game;
@@ -23,7 +72,7 @@ TEST(LongNames, AreCutShortAtTheirNeighbours) {
     Show(Table.LblTrumps);
     SetCaption(Table.LblInfo, {PlayerName, " please play a card."});
     game.Turn();
-    constexpr int ends[] = {248, 256, 512, 744};
+    constexpr int ends[] = {248, 567, 512, 744};
     for (int seat = Player; seat <= East; ++seat) {
       const QWidget& label = game.FindMember("LblName", seat);
       EXPECT_LT(label.geometry().right(), ends[seat]) << seat;
@@ -31,6 +80,21 @@ TEST(LongNames, AreCutShortAtTheirNeighbours) {
     }
     EXPECT_EQ(game.Find("LblInfo").size(), QSize(457, 33));
   }
+}
+
+TEST(LongNames, LeaveTheListsCardsReadable) {
+  WindowGame game;
+  game.Load();
+  const std::string name(60, 'W');
+  for (const char* card : {"Three of  Diamonds", "Queen of  Diamonds", "Queen of  Diamonds"})
+    AddLine(Table.LstCardsPlayed, {name, " played ", card});
+  game.Turn();
+  auto& list = dynamic_cast<QListView&>(game.Find("LstCardsPlayed"));
+  const auto line = [&](int row) {
+    return list.viewport()->grab(list.visualRect(list.model()->index(row, 0))).toImage();
+  };
+  EXPECT_FALSE(line(0) == line(1));
+  EXPECT_TRUE(line(1) == line(2)) << "each line looks different anyway";
 }
 
 TEST(LongNames, AreShownAndSpokenAsTheyStand) {

@@ -8,8 +8,8 @@
 #include "WindowGame.h"
 #include "engine/state/GameState.h"
 #include "table/CardDisplay.h"
-#include "table/window/Pictures.h"
-#include "table/window/TableParts.h"
+#include "table/window/painting/Named.h"
+#include "table/window/painting/Pictures.h"
 
 namespace Parlino {
 namespace {

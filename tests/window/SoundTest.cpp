@@ -4,7 +4,7 @@
 
 #include <QTemporaryDir>
 
-#include "table/window/Sound.h"
+#include "table/window/desktop/Sound.h"
 
 namespace Parlino {
 namespace {

@@ -7,7 +7,7 @@
 #include <QTextTable>
 
 #include "richtext/Limits.h"
-#include "table/window/TextDocument.h"
+#include "table/window/help/TextDocument.h"
 
 namespace Parlino {
 namespace {

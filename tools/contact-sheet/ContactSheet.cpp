@@ -5,8 +5,8 @@
 #include <QPainter>
 
 #include "table/TableView.h"
-#include "table/window/Design.h"
-#include "table/window/Pictures.h"
+#include "table/window/painting/Design.h"
+#include "table/window/painting/Pictures.h"
 
 namespace Parlino {
 namespace {

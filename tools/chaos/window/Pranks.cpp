@@ -7,7 +7,7 @@
 #include <QMenuBar>
 #include <QWheelEvent>
 
-#include "table/window/Design.h"
+#include "table/window/painting/Design.h"
 #include "tests/window/WindowGame.h"
 #include "tools/chaos/window/AnyWidget.h"
 

@@ -6,10 +6,10 @@
 #include <QListView>
 
 #include "engine/state/GameState.h"
-#include "table/window/Design.h"
-#include "table/window/PictureView.h"
-#include "table/window/Pictures.h"
-#include "table/window/TableParts.h"
+#include "table/window/painting/Design.h"
+#include "table/window/painting/Named.h"
+#include "table/window/painting/Pictures.h"
+#include "table/window/parts/PictureView.h"
 #include "tests/window/WindowGame.h"
 
 namespace Parlino {

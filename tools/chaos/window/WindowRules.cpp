@@ -10,7 +10,7 @@
 #include "table/HelpAndAbout.h"
 #include "table/MessageDialog.h"
 #include "table/TableView.h"
-#include "table/window/Design.h"
+#include "table/window/painting/Design.h"
 #include "tools/chaos/window/AnyWidget.h"
 
 namespace Parlino {

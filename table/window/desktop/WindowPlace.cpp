@@ -1,0 +1,67 @@
+#include "table/window/desktop/WindowPlace.h"
+
+#include <algorithm>
+
+#include <QEvent>
+#include <QWindow>
+
+namespace Parlino {
+namespace {
+
+// What the desktop has put round the last window that was shown; before the first, what is usual.
+QMargins frameToExpect(1, 28, 1, 1);
+
+// On a screen that is too small the top of the window is what must be seen.
+void MoveToMiddle(QWidget& window, const QRect& room, const QMargins& frame) {
+  const QSize spare = room.size() - window.size().grownBy(frame);
+  window.move(room.left() + std::max(0, spare.width() / 2),
+              room.top() + std::max(0, spare.height() / 2));
+}
+
+// Frames are as large as the desktop likes, and known when the window is on the screen. Its first
+// paint is the last moment at which it can move unseen.
+class MiddleWithFrame : public QObject {
+ public:
+  MiddleWithFrame(QWidget& window, const QRect& room)
+      : QObject(&window), window_(window), room_(room) {
+    window.installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != QEvent::Paint || !window_.isVisible()) return false;
+    window_.removeEventFilter(this);
+    deleteLater();
+    const QMargins frame = window_.windowHandle()->frameMargins();
+    const bool fillsScreen = window_.isMaximized() || window_.isFullScreen();
+    if (frame != frameToExpect && !fillsScreen) MoveToMiddle(window_, room_, frame);
+    frameToExpect = frame;
+    return false;
+  }
+
+ private:
+  QWidget& window_;
+  QRect room_;
+};
+
+}  // namespace
+
+QSize RoomForWindow(const QScreen& screen) {
+  constexpr QSize roomForFrame(2, 40);
+  return screen.availableGeometry().size() - roomForFrame;
+}
+
+void PutInMiddleOfScreen(QWidget& window, QSize size, const QScreen& screen) {
+  window.resize(size.boundedTo(RoomForWindow(screen)));
+  MoveToMiddle(window, screen.availableGeometry(), frameToExpect);
+  new MiddleWithFrame(window, screen.availableGeometry());
+}
+
+void ShowInFront(QWidget& window) {
+  window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+  window.show();
+  window.raise();
+  window.activateWindow();
+}
+
+}  // namespace Parlino

@@ -1,0 +1,41 @@
+// Keys as a player names them.
+#pragma once
+
+#include <optional>
+
+#include <QKeyEvent>
+
+#include "engine/state/Errors.h"
+
+namespace Parlino {
+
+// Enter, of the letters or of the numbers.
+inline bool IsEnter(const QKeyEvent& key) {
+  return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+}
+
+// The keys that take what is marked.
+inline bool IsEnterOrSpace(const QKeyEvent& key) {
+  return IsEnter(key) || key.key() == Qt::Key_Space;
+}
+
+// Tab in either direction.
+inline bool IsTab(const QKeyEvent& key) {
+  return key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab;
+}
+
+inline bool IsArrow(const QKeyEvent& key) {
+  return key.key() >= Qt::Key_Left && key.key() <= Qt::Key_Down;
+}
+
+// A key together with others is a command, but for Shift, which some keyboards need for digits.
+inline bool IsPlain(const QKeyEvent& key) {
+  return (key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == 0;
+}
+
+std::optional<int> DigitOf(const QKeyEvent& key);
+
+// The suit that begins with the letter.
+std::optional<Integer> SuitOf(const QKeyEvent& key);
+
+}  // namespace Parlino

@@ -1,0 +1,93 @@
+#include "table/window/mirror/Glides.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QScreen>
+#include <QWidget>
+
+#include "platform/Platform.h"
+
+namespace Parlino {
+namespace {
+
+// A card that takes longer looks tired; after it the pause just goes on.
+constexpr double LongestGlideMs = 300;
+// While the game waits for the person there is no pause to fit into.
+constexpr double GlideMsBeforeTurn = 150;
+
+// Starts fast and comes to rest gently; 0 to 1 for 0 to 1.
+double EaseOut(double progress) {
+  const double rest = 1 - progress;
+  return 1 - rest * rest;
+}
+
+double MsBetweenFrames(const QScreen& screen) {
+  constexpr double msInSecond = 1000;
+  constexpr double slowest = 24;  // virtual displays report a rate of next to nothing
+  constexpr double usual = 60;
+  const double rate = screen.refreshRate();
+  return msInSecond / (rate >= slowest ? rate : usual);
+}
+
+}  // namespace
+
+void Glides::Allow(bool allowed) {
+  areAllowed_ = allowed;
+  if (allowed) return;
+  for (const Glide& glide : glides_) glide.widget->move(glide.goal);
+  glides_.clear();
+}
+
+void Glides::Begin(QWidget* widget, QPoint goal, std::uint32_t now, std::uint32_t pauseMs) {
+  if (!areAllowed_ || pauseMs == 0) return widget->move(goal);
+  if (glides_.empty()) BeginCounting(*widget, now);
+  const double roomMs =
+      pauseMs == Forever ? GlideMsBeforeTurn : std::min<double>(pauseMs, LongestGlideMs);
+  // Half a frame less than there is room for: so the last frame comes before the pause ends.
+  const double lengthMs = std::max(1.0, roomMs - frameMs_ / 2);
+  glides_.push_back({widget, widget->pos(), goal, now, lengthMs});
+}
+
+void Glides::BeginCounting(const QWidget& widget, std::uint32_t now) {
+  frameMs_ = MsBetweenFrames(*widget.screen());
+  firstFrame_ = now;
+  nextFrame_ = 0;
+}
+
+void Glides::Cut(const QWidget* widget) {
+  const auto place = std::ranges::find(glides_, widget, &Glide::widget);
+  if (place == glides_.end()) return;
+  place->widget->move(place->goal);
+  glides_.erase(place);
+}
+
+void Glides::DrawFrame(std::uint32_t now) {
+  if (glides_.empty() || MsToNextFrame(now) > 0) return;
+  const int frame = static_cast<int>((now - firstFrame_) / frameMs_);
+  framesDropped_ += std::max(0, frame - nextFrame_);
+  ++framesDrawn_;
+  nextFrame_ = std::max(frame, nextFrame_) + 1;
+  std::erase_if(glides_, [&](const Glide& glide) { return !Advance(glide, now); });
+}
+
+// What is drawn now is seen until the next frame; it is right in the middle of that time. False
+// when the widget has arrived.
+bool Glides::Advance(const Glide& glide, std::uint32_t now) const {
+  const double progress = (now - glide.begun + frameMs_ / 2) / glide.lengthMs;
+  if (progress >= 1) {
+    glide.widget->move(glide.goal);
+    return false;
+  }
+  glide.widget->move(glide.from + (glide.goal - glide.from) * EaseOut(progress));
+  return true;
+}
+
+std::uint32_t Glides::MsToNextFrame(std::uint32_t now) const {
+  if (glides_.empty()) return Forever;
+  const auto due = static_cast<std::uint32_t>(std::ceil(nextFrame_ * frameMs_));
+  const std::uint32_t elapsed = now - firstFrame_;
+  return elapsed < due ? due - elapsed : 0;
+}
+
+}  // namespace Parlino

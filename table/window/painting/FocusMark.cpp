@@ -1,0 +1,58 @@
+#include "table/window/painting/FocusMark.h"
+
+#include <utility>
+
+#include <QPainter>
+
+#include "table/window/painting/Design.h"
+
+namespace Parlino {
+namespace {
+
+constexpr int Thickness = 3;
+constexpr int PointerHeight = 10;
+constexpr int PointerWidth = 20;
+constexpr QMargins Around(PointerWidth / 2, PointerHeight + Thickness, PointerWidth / 2, Thickness);
+
+}  // namespace
+
+FocusMark::FocusMark(QWidget* table) : QWidget(table) {
+  setObjectName("FocusMark");
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+  hide();
+}
+
+// The next card keeps its edge, with its rank behind it.
+void FocusMark::Frame(QRect card, int seenWidth, bool isPlayable) {
+  if (seenWidth < card.width()) card.setWidth(seenWidth - Thickness - 1);
+  setGeometry(card.marginsAdded(Around));
+  if (std::exchange(hasPointer_, isPlayable) != isPlayable) update();
+}
+
+// Its shape is seen where its colour is not, and both have a dark edge: the cards are white and the
+// table is dark.
+void FocusMark::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QRectF part = rect().marginsRemoved(Around);
+  const auto drawFrame = [&](const QColor& colour, qreal thickness) {
+    constexpr qreal corner = 5;
+    const qreal half = Thickness / 2.0;
+    painter.setPen(QPen(colour, thickness));
+    painter.drawRoundedRect(part.adjusted(-half, -half, half, half), corner, corner);
+  };
+  painter.setBrush(Qt::NoBrush);
+  drawFrame(Colours::Navy, Thickness + 2);
+  drawFrame(Colours::Gold, Thickness);
+
+  if (!hasPointer_) return;
+  const QPointF tip(part.center().x(), part.top() - Thickness - 1);
+  const qreal half = PointerWidth / 2.0 - 2;
+  const QPolygonF pointer{tip, tip + QPointF(-half, 1 - PointerHeight),
+                          tip + QPointF(half, 1 - PointerHeight)};
+  painter.setPen(QPen(Colours::Navy, 1));
+  painter.setBrush(Colours::Gold);
+  painter.drawPolygon(pointer);
+}
+
+}  // namespace Parlino

@@ -1,0 +1,19 @@
+// The names by which widgets are found: those of the controls that they show.
+#pragma once
+
+#include <QString>
+
+namespace Parlino {
+
+// "Cds(17)" for member 17 of the control array Cds.
+inline QString MemberName(const char* array, int index) {
+  return QString("%1(%2)").arg(array).arg(index);
+}
+
+template <class Widget>
+Widget* Named(Widget* widget, const QString& name) {
+  widget->setObjectName(name);
+  return widget;
+}
+
+}  // namespace Parlino

@@ -1,0 +1,31 @@
+// What assistive tools say of the table. Nobody hears more than can be seen.
+#pragma once
+
+#include <QString>
+
+#include "table/TableView.h"
+#include "table/window/speaking/Speaker.h"
+
+namespace Parlino {
+
+// A card of the Player's row, with its place there and whether it may be played now; a card played
+// to the trick, with its seat; any other card that lies face up. Backs are only for the eye.
+Spoken SpokenCard(Integer card);
+
+// "Trumps Hearts", once they are known.
+Spoken SpokenTrumps();
+
+// One of the small backs of a trick pile: "Trick 3 of West".
+Spoken SpokenTrick(Integer seat, int trick);
+
+// "West: bid 4, took 2", with the name that the seat has been given; the greeting before the first
+// hand.
+Spoken SpokenSeat(Integer seat);
+
+// The information line, which is read out when it changes.
+Spoken SpokenInfo();
+
+// A line of the list of cards played; `place` is 0 for the first.
+QString SpokenLine(int place, const QString& line);
+
+}  // namespace Parlino
