@@ -71,7 +71,7 @@ RecordWriter SaveGameRecord(Integer ours, Integer theirs, Flag inProgress) {
   return RecordWriter().Add(ours).Add(theirs).AddFlag(inProgress);
 }
 
-// Something of the player's has been moved: `keptAs` is where, empty when nothing was.
+// A file of the player's has been moved to `keptAs`; empty if there was none to move.
 void TellWhereOldOneIs(std::string_view file, std::string_view keptAs) {
   if (keptAs.empty()) return;
   ThePlatform().MsgBox(JoinText({file,
@@ -123,7 +123,7 @@ void SaveEndedGame() {
     oldPoints = ThePlatform().ReplaceFile(PointsFile, PointsRecord().Line());
     oldGame = ThePlatform().ReplaceFile(SaveGameFile, SaveGameRecord(0, 0, False).Line());
   } catch (const GameError&) {
-    // the saving after the answer says so
+    // reported by the saving after the answer
   }
   TellWhereOldOneIs(PointsFile, oldPoints);
   TellWhereOldOneIs(SaveGameFile, oldGame);

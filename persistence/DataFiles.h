@@ -43,8 +43,7 @@ bool SaveWelcome();
 
 // Writes what SavePoints and SaveGame will write once the player has answered the dialog at the end
 // of a game; until then the totals stay. A failure is not reported here: the saving after the
-// answer reports it. Where an old file that could not be read is kept is told once both are
-// written.
+// answer reports it. The player is told at once where an old file that could not be read is kept.
 void SaveEndedGame();
 
 }  // namespace Parlino

@@ -21,8 +21,8 @@ std::string ReadLink(std::string_view fileName, const fs::path& path, std::strin
   return {text.data(), static_cast<std::size_t>(length)};
 }
 
-// The system does not follow a link that leads round in a circle, or one that somebody else may
-// have laid as a trap. What lies at its end is moved and replaced only when it is an ordinary file.
+// The system does not follow links that form a circle, or one that somebody else may have planted
+// as a trap. What a link leads to is moved and replaced only if it is an ordinary file.
 void ExpectGoodEnd(std::string_view fileName, const fs::path& link, std::string_view action) {
   struct stat end {};
   if (::stat(link.c_str(), &end) == 0) return ExpectFile(fileName, action, end);
@@ -37,7 +37,7 @@ std::optional<struct stat> LastSetAside(const fs::path& path) {
   return last;
 }
 
-// A program can only learn this by changing it, for a moment to the strictest.
+// A program can read this only by changing it: for a moment, to the strictest value.
 mode_t UnwantedPermissions() {
   const mode_t unwanted = ::umask(S_IRWXG | S_IRWXO);
   ::umask(unwanted);
@@ -60,7 +60,7 @@ void ExpectFile(std::string_view fileName, std::string_view action, const struct
 }
 
 FilePlace FindPlace(std::string_view fileName, const fs::path& path, std::string_view action) {
-  constexpr int mostLinks = 40;  // as many as the system follows
+  constexpr int mostLinks = 40;  // as many as the system follows itself
   FilePlace place{path, {}};
   for (int links = 0; links <= mostLinks; ++links) {
     struct stat entry {};
@@ -85,7 +85,7 @@ mode_t PermissionsFor(const FilePlace& place, int newFile) {
   const mode_t kept = (old->st_mode & all) | S_IRUSR;
   struct stat made {};
   if (::fstat(newFile, &made) == 0 && made.st_gid == old->st_gid) return kept;
-  // Members of the one group are others for the other.
+  // The members of either group count as others for the other one.
   const mode_t common = kept & (kept >> 3) & ofOne;
   return (kept & S_IRWXU) | common << 3 | common;
 }

@@ -27,7 +27,7 @@ struct ButtonFace {
 struct MessageDialogView {
   bool Visible = false;
   bool IsWaiting = false;  // from being shown until the game goes on with the answer
-  int Showings = 0;        // with each the keys begin again at AnswerToMark
+  int Showings = 0;        // at each the keys begin again at AnswerToMark
   Integer AnswerToMark = 0;
   int Left = 0;  // of the window on the screen, twips
   int Top = 0;

@@ -43,8 +43,8 @@ void AskWhetherToExit() {
   if (MessageChoice == 0) UnloadAllForms();
 }
 
-// Without its file there is no saved game, and the dialog says no more than that. A file that is
-// there and cannot be read is something of the player's.
+// A missing file means that there is no saved game, and the dialog says so. A file that is there
+// but cannot be read belongs to the player, who is told about it.
 bool ReadSavedGame() {
   try {
     ReadRecord(SaveGameFile);
