@@ -95,11 +95,12 @@ void TableWatch::TellList() {
   };
 }
 
-// What was brought to the front later lies in front; the information line in front of all.
+// What was brought to the front later lies in front; West's name and the information line in front
+// of all.
 bool TableWatch::LayersAreInOrder() const {
   std::unordered_map<const QObject*, std::uint32_t> layers;
   for (const Tie& tie : ties_) layers.emplace(tie.widget, tie.control->Layer);
-  layers.erase(&WindowGame::Find("LblInfo"));
+  for (const char* inFront : {"LblName(1)", "LblInfo"}) layers.erase(&WindowGame::Find(inFront));
   std::uint32_t behind = 0;
   for (const QObject* widget : WindowGame::Find("Table").children()) {
     const auto layer = layers.find(widget);
