@@ -28,6 +28,10 @@ void Cds_Click(Integer card);
 // hint that say whether it may be played now.
 void Cds_MouseMove(Integer card);
 
+// Whether the card is in the human's hand and its pointer and hint say what the mouse would be told
+// over it now.
+bool HintHolds(Integer card);
+
 // Shows a robot's card, moves it to the middle and lists it. The caller has recorded it in the
 // trick. Takes about one second; leaves PauseMs at DefaultPauseMs. Reports its own errors.
 void PlayCard(Integer seat, Integer card);

@@ -2,6 +2,7 @@
 #include "engine/GameState.h"
 #include "table/TableEvents.h"
 #include "table/window/CaptionLabel.h"
+#include "table/window/CardHints.h"
 #include "table/window/Design.h"
 #include "table/window/FrameBox.h"
 #include "table/window/PendingEvents.h"
@@ -88,6 +89,7 @@ void BuildCards(const PartsBin& bin) {
     auto* view = Named(new Speaking<PictureView>(&bin.parent), MemberName("Cds", card));
     view->speak = [card] { return SpokenCard(card); };
     ReportCardEvents(*view, card, bin.pending);
+    bin.hints.Add(card, view);
     const PictureBox& box = Table.Cds[card];
     bin.mirror.Link(
         box, view, [view, &box] { view->ShowModel(box); }, Placing::Glides);

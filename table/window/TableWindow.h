@@ -7,8 +7,10 @@
 
 #include <QWidget>
 
+#include "table/window/CardHints.h"
 #include "table/window/DesktopMotion.h"
 #include "table/window/Glides.h"
+#include "table/window/RestingPointer.h"
 #include "table/window/Speaker.h"
 #include "table/window/SpokenParts.h"
 #include "table/window/TableKeys.h"
@@ -44,10 +46,12 @@ class TableWindow : public QWidget, public Speaker {
   PendingEvents& pending_;
   Glides glides_;
   TableMirror mirror_{glides_};
+  CardHints hints_;
   QWidget* table_;
   ScrolledTable* room_;
   SpokenChanges spoken_;
   std::optional<TableKeys> keys_;
+  RestingPointer pointer_{*this, pending_};
   bool wasPainted_ = false;
   std::optional<DesktopMotion> desktop_;
 };
