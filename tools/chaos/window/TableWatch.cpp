@@ -3,8 +3,8 @@
 #include <unordered_map>
 
 #include <QAbstractItemModel>
+#include <QApplication>
 #include <QCursor>
-#include <QGuiApplication>
 #include <QListView>
 
 #include "engine/GameState.h"
@@ -37,7 +37,7 @@ bool HintIsRight(const QWidget& widget, int card) {
 bool PointerTellsWhoseTurnItIs() {
   const QWidget& window = WindowGame::Find("FrmMain");
   const bool isThere =
-      window.underMouse() && TableTakesInput() && QGuiApplication::mouseButtons() == Qt::NoButton;
+      window.underMouse() && TableTakesInput() && QApplication::mouseButtons() == Qt::NoButton;
   const QWidget* seen = isThere ? window.childAt(window.mapFromGlobal(QCursor::pos())) : nullptr;
   if (seen == nullptr || !seen->objectName().startsWith("Cds(")) return true;
   if (!IsInPlayersHand(seen->objectName().mid(4).chopped(1).toInt())) return true;
