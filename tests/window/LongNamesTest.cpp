@@ -119,7 +119,9 @@ TEST(LongNames, GoFromAnOpenTipWhenTheyAreChanged) {
   game.Turn();
   QWidget& label = game.FindMember("LblName", North);
   const QPoint spot = label.rect().center();
-  QTest::mouseMove(&label, spot);
+  QCursor::setPos(label.mapToGlobal(spot));
+  QCoreApplication::processEvents();
+  ASSERT_TRUE(label.underMouse());
   QHelpEvent rest(QEvent::ToolTip, spot, label.mapToGlobal(spot));
   QCoreApplication::sendEvent(&label, &rest);
   EXPECT_TRUE(QToolTip::isVisible());
