@@ -24,6 +24,17 @@ void ShowFollowSuitNote() {
   ShowInfoNote({PlayerName, " sorry, you must follow suit. Please try again"}, NoteMs);
 }
 
+struct Hint {
+  Integer pointer;
+  std::string text;
+};
+
+Hint HintNow() {
+  if (PlayerTurn != False)
+    return {PicturePointerPlay, JoinText({PlayerName, " left click the card you wish to play."})};
+  return {PicturePointerWait, JoinText({PlayerName, " sorry, it is not your turn at the moment."})};
+}
+
 void PutCardOnTable(Integer seat, Integer card) {
   MoveToMiddle(card, seat);
   PlayCardSound();
@@ -68,14 +79,16 @@ void Cds_Click(Integer card) {
 
 void Cds_MouseMove(Integer card) {
   if (Pack[card].Owner != Player) return;
-  PictureBox& picture = Table.Cds[card];
-  if (PlayerTurn != False) {
-    SetMousePointer(picture, PicturePointerPlay);
-    SetToolTip(picture, {PlayerName, " left click the card you wish to play."});
-  } else {
-    SetMousePointer(picture, PicturePointerWait);
-    SetToolTip(picture, {PlayerName, " sorry, it is not your turn at the moment."});
-  }
+  const Hint hint = HintNow();
+  SetMousePointer(Table.Cds[card], hint.pointer);
+  SetToolTip(Table.Cds[card], {hint.text});
+}
+
+bool HintHolds(Integer card) {
+  const PictureBox& picture = Table.Cds[card];
+  if (Pack[card].Owner != Player || picture.MousePointer == 0) return false;
+  const Hint hint = HintNow();
+  return picture.MousePointer == hint.pointer && picture.ToolTipText == hint.text;
 }
 
 void PlayCard(Integer seat, Integer card) {

@@ -17,6 +17,10 @@ void Cds_Click(Integer card);
 // hint that tell whether it is the human's turn.
 void Cds_MouseMove(Integer card);
 
+// Whether the card is in the human's hand and its pointer and hint say what the mouse would be told
+// over it now.
+bool HintHolds(Integer card);
+
 // Plays the robot's card at `position` 1..4 of the trick: chooses it, records it and puts it on the
 // table. Takes about one second. Reports its own errors under the position's name, as below. May
 // throw HandAbandoned or ProgramEnded.

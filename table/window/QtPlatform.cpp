@@ -56,8 +56,16 @@ void QtPlatform::ShowModel(std::uint32_t pauseMs) {
   if (message_ == nullptr && MFormDeluxe.Visible)
     message_ = std::make_unique<MessageWindow>(keyUse_, pending_, &table_);
   if (message_ == nullptr) return;
-  if (MFormDeluxe.Visible && !message_->isVisible()) CloseMenus();
+  if (MFormDeluxe.Visible && !message_->isVisible()) MakeRoomForMessage();
   message_->ShowModel(MFormDeluxe);
+}
+
+// It is used again and again, and may still belong to a window that has gone.
+void QtPlatform::MakeRoomForMessage() {
+  CloseMenus();
+  const QWidget* active = QApplication::activeWindow();
+  const bool isThere = active != nullptr && active->isVisible();
+  PutBefore(isThere ? active : &table_, *message_);
 }
 
 void QtPlatform::WaitForToolkit(std::uint32_t atMostMs) {

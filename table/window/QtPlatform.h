@@ -53,6 +53,7 @@ class QtPlatform : public Platform {
 
  private:
   void ShowModel(std::uint32_t pauseMs);
+  void MakeRoomForMessage();
   void RaisePendingEvents();
   void ShowAndWait(QDialog& box);
   QWidget* OwnerOfBoxes();

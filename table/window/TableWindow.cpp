@@ -51,7 +51,7 @@ void TableWindow::BuildTable(KeyUse& keyUse) {
   // and a stray Space would press it.
   table_->setFocusPolicy(Qt::ClickFocus);
   table_->setFocus();
-  const PartsBin bin{*table_, mirror_, pending_};
+  const PartsBin bin{*table_, mirror_, pending_, hints_};
   BuildTableTop(bin);
   BuildTrickPiles(bin);
   BuildTrumps(bin);
@@ -71,6 +71,7 @@ void TableWindow::BuildTable(KeyUse& keyUse) {
 void TableWindow::ShowModel(std::uint32_t now, std::uint32_t pauseMs) {
   keys_->LeaveBidding();
   mirror_.ShowChanges(now, pauseMs);
+  hints_.Follow();
   keys_->Follow();
   spoken_.Tell();
   glides_.DrawFrame(now);
@@ -78,6 +79,7 @@ void TableWindow::ShowModel(std::uint32_t now, std::uint32_t pauseMs) {
     FitToScreen();
     show();
   }
+  pointer_.Follow();
   if (wasPainted_ && !desktop_) FollowDesktop();
 }
 

@@ -8,9 +8,11 @@
 #include <QWidget>
 
 #include "table/window/desktop/DesktopMotion.h"
-#include "table/window/keys/TableKeys.h"
 #include "table/window/mirror/Glides.h"
 #include "table/window/mirror/TableMirror.h"
+#include "table/window/parts/CardHints.h"
+#include "table/window/pointing/RestingPointer.h"
+#include "table/window/pointing/TableKeys.h"
 #include "table/window/speaking/Speaker.h"
 #include "table/window/speaking/SpokenParts.h"
 
@@ -44,10 +46,12 @@ class TableWindow : public QWidget, public Speaker {
   PendingEvents& pending_;
   Glides glides_;
   TableMirror mirror_{glides_};
+  CardHints hints_;
   QWidget* table_;
   ScrolledTable* room_;
   SpokenChanges spoken_;
   std::optional<TableKeys> keys_;
+  RestingPointer pointer_{*this, pending_};
   bool wasPainted_ = false;
   std::optional<DesktopMotion> desktop_;
 };

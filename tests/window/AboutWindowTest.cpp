@@ -76,6 +76,21 @@ TEST_F(About, EveryWayOutUnloadsIt) {
   }
 }
 
+TEST_F(About, EachShowingIsLeftByEnter) {
+  game.platform.person = [] {
+    if (OpenBox() == nullptr) return;
+    ADD_FAILURE() << "the other button was pressed";
+    OpenBox()->accept();
+  };
+  for (const char* focus : {"cmdOK", "cmdSysInfo"}) {
+    Part(focus).setFocus();
+    Open();
+    QTest::keyClick(Window().focusWidget(), Qt::Key_Return);
+    EXPECT_TRUE(TurnUntil([] { return !frmAbout.Loaded; }));
+    Open();
+  }
+}
+
 TEST_F(About, SystemInformationIsUnavailable) {
   QString said;
   game.platform.person = [&] {

@@ -6,10 +6,12 @@
 #include <QLabel>
 #include <QScreen>
 #include <QTest>
+#include <QWindow>
 
 #include "WindowGame.h"
 #include "engine/state/GameState.h"
 #include "table/MessageDialog.h"
+#include "table/TableEvents.h"
 #include "table/window/painting/Design.h"
 
 namespace Parlino {
@@ -200,6 +202,30 @@ TEST_F(Dialog, NothingElseClosesIt) {
     }
   });
   EXPECT_EQ(answer, 1);
+}
+
+// The desktop gives the keys back to the window that the dialog belongs to.
+TEST_F(Dialog, BelongsToTheWindowThatHadTheKeys) {
+  game.platform.ReplaceFile("ParlinoHelp.rtf", "{\\rtf1 Rules}");
+  const auto ownerWhile = [this](QWidget* active) {
+    QApplication::setActiveWindow(active);
+    QWindow* owner = nullptr;
+    Ask([&] {
+      owner = game.Find("MFormDeluxe").windowHandle()->transientParent();
+      Click(game.FindMember("Label1", 0));
+    });
+    return owner;
+  };
+  QWidget& table = game.Find("FrmMain");
+  EXPECT_EQ(ownerWhile(&table), table.windowHandle());
+  ChooseMenu(MenuItem::MnuRules);
+  game.Turn();
+  QWidget& help = game.Find("frmHelp");
+  EXPECT_EQ(ownerWhile(&help), help.windowHandle());
+  EXPECT_EQ(ownerWhile(nullptr), table.windowHandle());
+  QApplication::setActiveWindow(&help);
+  help.hide();
+  EXPECT_EQ(ownerWhile(QApplication::activeWindow()), table.windowHandle());
 }
 
 TEST_F(Dialog, AButtonThatIsPressedMovesItsCaptionAndWaitsForTheClick) {

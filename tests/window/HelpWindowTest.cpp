@@ -88,6 +88,32 @@ TEST_F(Help, EveryWayOutHidesItAndTheTextComesAfresh) {
   }
 }
 
+// However it was left, and also when it is still open.
+TEST_F(Help, EachShowingIsReadByTheKeysFromTheTop) {
+  const auto openFindLine = [] { Press(Qt::Key_F, Qt::ControlModifier); };
+  const std::function<void()> waysToLeaveIt[] = {[] {}, [] { Click(WindowGame::Find("btnClose")); },
+                                                 [&] {
+                                                   openFindLine();
+                                                   Window().close();
+                                                 },
+                                                 openFindLine,
+                                                 [] { WindowGame::Find("btnClose").setFocus(); }};
+  for (const auto& leave : waysToLeaveIt) {
+    OpenLong();
+    leave();
+    game.Turn();
+    game.Turn();
+    OpenLong();
+    EXPECT_EQ(Window().focusWidget(), &Text());
+    EXPECT_FALSE(game.Find("FindLine").isVisible());
+    Press(Qt::Key_PageDown);
+    EXPECT_GT(Text().verticalScrollBar()->value(), 0);
+    Press(Qt::Key_Return);
+    game.Turn();
+    EXPECT_TRUE(frmHelp.Visible);
+  }
+}
+
 TEST_F(Help, IsReadSelectedAndCopiedButNotEdited) {
   OpenLong();
   const QString text = Text().toPlainText();

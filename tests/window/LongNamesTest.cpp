@@ -1,8 +1,12 @@
 // Names that are longer than anybody's, and text that looks like markup.
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QListView>
+#include <QTest>
+#include <QToolTip>
 
 #include "WindowGame.h"
 #include "engine/Deal.h"
@@ -106,6 +110,24 @@ TEST(LongNames, AreShownAndSpokenAsTheyStand) {
   EXPECT_EQ(label.textFormat(), Qt::PlainText);
   EXPECT_EQ(SpokenSeat(Player).name, "<b>Bo</b> & Co");
   EXPECT_EQ(PlainToolTip(label.text()), "<span>&lt;b&gt;Bo&lt;/b&gt; &amp; Co</span>");
+}
+
+TEST(LongNames, GoFromAnOpenTipWhenTheyAreChanged) {
+  WindowGame game;
+  game.Load();
+  SetCaption(Table.LblName[North], {std::string(100, 'W')});
+  game.Turn();
+  QWidget& label = game.FindMember("LblName", North);
+  const QPoint spot = label.rect().center();
+  QCursor::setPos(label.mapToGlobal(spot));
+  QCoreApplication::processEvents();
+  ASSERT_TRUE(label.underMouse());
+  QHelpEvent rest(QEvent::ToolTip, spot, label.mapToGlobal(spot));
+  QCoreApplication::sendEvent(&label, &rest);
+  EXPECT_TRUE(QToolTip::isVisible());
+  SetCaption(Table.LblName[North], {std::string(100, 'E')});
+  game.Turn();
+  EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
 }
 
 TEST(WrappedText, EveryLineFitsAndNoWordIsLost) {

@@ -1,4 +1,4 @@
-// The widgets follow the model: order, pictures, pointers, and nothing drawn without a change.
+// The widgets follow the model: order, pictures, and nothing drawn without a change.
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
@@ -75,15 +75,6 @@ TEST_F(Mirror, NoPictureIsMissingAtAnyRatio) {
     EXPECT_TRUE(hasPixels(SmallBack(ratio)));
   }
   EXPECT_TRUE(hasPixels(IconPicture(48)));
-}
-
-TEST_F(Mirror, PointersAndTipsOfCardsAreShown) {
-  QWidget& card = game.Find("Cds(1)");
-  SetMousePointer(Table.Cds[1], PicturePointerPlay);
-  SetToolTip(Table.Cds[1], {"Player", " left click the card you wish to play."});
-  game.Turn();
-  EXPECT_EQ(card.cursor().shape(), Qt::BitmapCursor);
-  EXPECT_EQ(card.toolTip(), "Player left click the card you wish to play.");
 }
 
 TEST_F(Mirror, TheListStartsAgainWithEveryHand) {

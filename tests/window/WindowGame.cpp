@@ -27,6 +27,7 @@ void QuickPlatform::WaitForToolkit(std::uint32_t atMostMs) {
 
 WindowGame::WindowGame(std::uint64_t seed) : platform(folder.path().toStdString()) {
   SetUpGame(platform);
+  QCursor::setPos(0, 0);           // where the test before has left it, it might rest on a card
   platform.Motion().Allow(false);  // a test that wants to see the way of the cards allows it
   DealGenerator.Seed(seed);
   WriteFirstRecords();

@@ -29,12 +29,14 @@ class MiddleWithFrame : public QObject {
 
  protected:
   bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() != QEvent::Paint || !window_.isVisible()) return false;
+    const QWindow* onScreen = window_.windowHandle();
+    if (event->type() != QEvent::Paint || onScreen == nullptr || !onScreen->isExposed())
+      return false;
     window_.removeEventFilter(this);
     deleteLater();
-    const QMargins frame = window_.windowHandle()->frameMargins();
+    const QMargins frame = onScreen->frameMargins();
     const bool fillsScreen = window_.isMaximized() || window_.isFullScreen();
-    if (frame != frameToExpect && !fillsScreen) MoveToMiddle(window_, room_, frame);
+    if (frame != expected_ && !fillsScreen) MoveToMiddle(window_, room_, frame);
     frameToExpect = frame;
     return false;
   }
@@ -42,6 +44,7 @@ class MiddleWithFrame : public QObject {
  private:
   QWidget& window_;
   QRect room_;
+  QMargins expected_ = frameToExpect;
 };
 
 }  // namespace

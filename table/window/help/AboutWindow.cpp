@@ -107,10 +107,10 @@ AboutWindow::AboutWindow(PendingEvents& pending, QWidget* table)
   description_ = label("lblDescription", ToPixels(840, 1440, 4335, 615), TextPoints);
   AddEtchedLine(this);
   disclaimer_ = label("lblDisclaimer", ToPixels(120, 2640, 3975, 855), TextPoints);
-  auto* ok = AddButton("cmdOK", "&OK", ToPixels(4200, 2640, 1335, 375), this);
+  ok_ = AddButton("cmdOK", "&OK", ToPixels(4200, 2640, 1335, 375), this);
   auto* info = AddButton("cmdSysInfo", "&System Info...", ToPixels(4200, 3120, 1335, 375), this);
-  ok->setDefault(true);
-  connect(ok, &QPushButton::clicked, this, &AboutWindow::reject);
+  ok_->setDefault(true);
+  connect(ok_, &QPushButton::clicked, this, &AboutWindow::reject);
   connect(info, &QPushButton::clicked,
           [&pending] { pending.Append({[](int) { return ClickSysInfo(); }}); });
   PutInMiddleOfScreen(*this, DesignSize, *table->screen());
@@ -125,6 +125,7 @@ void AboutWindow::ShowModel(const AboutWindowView& about) {
   version_->ShowCaption(about.lblVersion);
   description_->ShowCaption(about.lblDescription);
   disclaimer_->ShowCaption(about.lblDisclaimer);
+  ok_->setFocus();
   ShowInFront(*this);
 }
 

@@ -5,6 +5,8 @@
 
 #include "table/HelpAndAbout.h"
 
+class QPushButton;
+
 namespace Parlino {
 
 class BorderedLabel;
@@ -28,6 +30,7 @@ class AboutWindow : public QDialog {
   BorderedLabel* version_;
   BorderedLabel* description_;
   BorderedLabel* disclaimer_;
+  QPushButton* ok_;
   int showings_ = 0;  // as shown
 };
 

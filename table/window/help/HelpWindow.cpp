@@ -52,7 +52,6 @@ HelpWindow::HelpWindow(PendingEvents& pending, const QWidget& table)
   BindKeys();
   setMinimumSize(SmallestSize);
   PutInMiddleOfScreen(*this, DesignSize, *table.screen());
-  text_->setFocus();
 }
 
 void HelpWindow::BindKeys() {
@@ -73,6 +72,7 @@ void HelpWindow::ShowModel(const HelpWindowView& help) {
   if (showings_ == help.Showings) return;
   showings_ = help.Showings;
   text_->ShowText(help.rtbHelp);
+  find_->Close();  // gives the focus to the text, which the keys are to scroll
   ShowInFront(*this);
 }
 

@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include "table/window/painting/Design.h"
+#include "table/window/painting/ToolTips.h"
 #include "table/window/painting/WrappedText.h"
 
 namespace Parlino {
@@ -33,7 +34,7 @@ void CaptionLabel::BreakLines() {
   const int mostLines = look_.mostLines > 0 ? look_.mostLines : LinesThatFit(height(), look_.font);
   lines_ = WrapText(text(), look_.font, WidthForText(), mostLines);
   const bool isShortened = lines_.last().contains(Ellipsis) && !text().contains(lines_.last());
-  setToolTip(isShortened ? PlainToolTip(text()) : QString());
+  ChangeToolTip(*this, isShortened ? PlainToolTip(text()) : QString());
   if (mostWidth_ > 0)
     resize(QFontMetrics(look_.font).horizontalAdvance(lines_.first()) + Overhang,
            TextHeight(1, look_.font));

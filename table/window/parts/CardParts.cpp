@@ -7,6 +7,7 @@
 #include "table/window/painting/Design.h"
 #include "table/window/painting/FrameBox.h"
 #include "table/window/painting/Named.h"
+#include "table/window/parts/CardHints.h"
 #include "table/window/parts/PictureView.h"
 #include "table/window/parts/TableParts.h"
 #include "table/window/speaking/Speaker.h"
@@ -89,6 +90,7 @@ void BuildCards(const PartsBin& bin) {
     auto* view = Named(new Speaking<PictureView>(&bin.parent), MemberName("Cds", card));
     view->speak = [card] { return SpokenCard(card); };
     ReportCardEvents(*view, card, bin.pending);
+    bin.hints.Add(card, view);
     const PictureBox& box = Table.Cds[card];
     bin.mirror.Link(
         box, view, [view, &box] { view->ShowModel(box); }, Placing::Glides);

@@ -8,6 +8,7 @@
 #include "table/window/painting/Design.h"
 #include "table/window/painting/Edges.h"
 #include "table/window/painting/Pictures.h"
+#include "table/window/painting/ToolTips.h"
 
 namespace Parlino {
 namespace {
@@ -31,9 +32,11 @@ void PictureView::ShowModel(const PictureBox& box) {
     if (picture_ != 0) resize(PictureSize(picture_));
     update();
   }
-  ShowPointer(box.MousePointer);
-  const QString tip = PlainToolTip(QString::fromStdString(box.ToolTipText));
-  if (tip != toolTip()) setToolTip(tip);
+}
+
+void PictureView::ShowHint(Integer pointer, const std::string& tip) {
+  ShowPointer(pointer);
+  ChangeToolTip(*this, PlainToolTip(QString::fromStdString(tip)));
 }
 
 void PictureView::ShowPointer(Integer picture) {

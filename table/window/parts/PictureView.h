@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include <QWidget>
 
@@ -18,7 +19,11 @@ class PictureView : public QWidget {
   std::function<void()> onClick;
   std::function<void()> onHover;
 
+  // Shows the picture of the model, but for its hint.
   void ShowModel(const PictureBox& box);
+  // Shows the picture of the image list as the mouse pointer, 0 for the ordinary one, and a tool
+  // tip, or none.
+  void ShowHint(Integer pointer, const std::string& tip);
   // The picture of the image list that is shown; 0 is none.
   [[nodiscard]] Integer Picture() const { return picture_; }
 

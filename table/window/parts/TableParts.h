@@ -6,15 +6,17 @@
 
 namespace Parlino {
 
+class CardHints;
 class PendingEvents;
 class TableMirror;
 
 // What a part is built with: the table or frame that holds it, the mirror that will keep it up to
-// date and the place for the events it reports.
+// date, the place for the events it reports and what shows the hints on cards.
 struct PartsBin {
   QWidget& parent;
   TableMirror& mirror;
   PendingEvents& pending;
+  CardHints& hints;
 };
 
 void BuildTableTop(const PartsBin& bin);

@@ -3,9 +3,13 @@
 #include <unordered_map>
 
 #include <QAbstractItemModel>
+#include <QApplication>
+#include <QCursor>
 #include <QListView>
 
+#include "engine/TrickPlay.h"
 #include "engine/state/GameState.h"
+#include "table/TableEvents.h"
 #include "table/window/painting/Design.h"
 #include "table/window/painting/Named.h"
 #include "table/window/painting/Pictures.h"
@@ -13,6 +17,34 @@
 #include "tests/window/WindowGame.h"
 
 namespace Parlino {
+namespace {
+
+bool IsInPlayersHand(int card) {
+  constexpr double top = 6600;
+  const PictureBox& box = Table.Cds[card];
+  return Pack[card].Owner == Player && box.Picture == card && box.Place.Top == top;
+}
+
+// Only a card of the Player's hand has a hint, and none that does not hold.
+bool HintIsRight(const QWidget& widget, int card) {
+  const PictureBox& box = Table.Cds[card];
+  const bool isDue = IsInPlayersHand(card) && HintHolds(ToInteger(card));
+  return widget.testAttribute(Qt::WA_SetCursor) == isDue &&
+         widget.toolTip() == (isDue ? PlainToolTip(ToText(box.ToolTipText)) : QString());
+}
+
+// What a person sees who does not move the mouse.
+bool PointerTellsWhoseTurnItIs() {
+  const QWidget& window = WindowGame::Find("FrmMain");
+  const bool isThere =
+      window.underMouse() && TableTakesInput() && QApplication::mouseButtons() == Qt::NoButton;
+  const QWidget* seen = isThere ? window.childAt(window.mapFromGlobal(QCursor::pos())) : nullptr;
+  if (seen == nullptr || !seen->objectName().startsWith("Cds(")) return true;
+  if (!IsInPlayersHand(seen->objectName().mid(4).chopped(1).toInt())) return true;
+  return seen->toolTip().contains(PlayerTurn != False ? "you wish to play." : "at the moment.");
+}
+
+}  // namespace
 
 TableWatch::TableWatch() {
   TellCards();
@@ -46,15 +78,18 @@ void TableWatch::TellPicture(const QString& name, const PictureBox& box, bool ha
   Tell(name, box, hasPlace);
   ties_.back().isShown = [widget = dynamic_cast<PictureView*>(ties_.back().widget), &box] {
     return widget->Picture() == box.Picture &&
-           (box.Picture == 0 || widget->size() == PictureSize(box.Picture)) &&
-           widget->toolTip() == PlainToolTip(ToText(box.ToolTipText)) &&
-           widget->testAttribute(Qt::WA_SetCursor) == (box.MousePointer != 0);
+           (box.Picture == 0 || widget->size() == PictureSize(box.Picture));
   };
 }
 
 void TableWatch::TellCards() {
-  for (int card = 1; card <= CardsInPack; ++card)
+  for (int card = 1; card <= CardsInPack; ++card) {
     TellPicture(MemberName("Cds", card), Table.Cds[card], true);
+    const QWidget* widget = ties_.back().widget;
+    ties_.back().isShown = [picture = ties_.back().isShown, widget, card] {
+      return picture() && HintIsRight(*widget, card);
+    };
+  }
   TellPicture("imgtrumps", Table.imgtrumps, false);
   for (int trick = 1; trick <= TricksInHand; ++trick) {
     Tell(MemberName("ImgBackP", trick), Table.ImgBackP[trick]);
@@ -95,11 +130,12 @@ void TableWatch::TellList() {
   };
 }
 
-// What was brought to the front later lies in front; the information line in front of all.
+// What was brought to the front later lies in front; West's name and the information line in front
+// of all.
 bool TableWatch::LayersAreInOrder() const {
   std::unordered_map<const QObject*, std::uint32_t> layers;
   for (const Tie& tie : ties_) layers.emplace(tie.widget, tie.control->Layer);
-  layers.erase(&WindowGame::Find("LblInfo"));
+  for (const char* inFront : {"LblName(1)", "LblInfo"}) layers.erase(&WindowGame::Find(inFront));
   std::uint32_t behind = 0;
   for (const QObject* widget : WindowGame::Find("Table").children()) {
     const auto layer = layers.find(widget);
@@ -116,6 +152,7 @@ std::string TableWatch::Look(bool nothingGlides) const {
         (tie.hasPlace && nothingGlides && tie.widget->pos() != ToPixels(tie.control->Place)))
       return tie.name.toStdString();
   }
+  if (nothingGlides && !PointerTellsWhoseTurnItIs()) return "whose turn it is at the pointer";
   return LayersAreInOrder() ? std::string() : "the layer of a control";
 }
 

@@ -1,4 +1,4 @@
-#include "table/window/keys/TableKeys.h"
+#include "table/window/pointing/TableKeys.h"
 
 #include <algorithm>
 #include <optional>

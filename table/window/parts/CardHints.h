@@ -1,0 +1,25 @@
+// Which cards show the pointer and the tool tip that the model gives them.
+#pragma once
+
+#include "engine/state/GameState.h"
+
+namespace Parlino {
+
+class PictureView;
+
+class CardHints {
+ public:
+  // The widget of the card, which lives as long as this.
+  void Add(Integer card, PictureView* view) { views_[card] = view; }
+
+  // To be called when the table shows a change. The model leaves a hint on a card that has been
+  // played or dealt again, and on one whose turn has passed; here it is shown only on a card that
+  // lies face up in the Player's hand, and only as long as it holds.
+  void Follow();
+
+ private:
+  Indexed<PictureView*, 1, CardsInPack> views_;
+  CardSet shown_;
+};
+
+}  // namespace Parlino
