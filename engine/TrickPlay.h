@@ -17,8 +17,8 @@ void Cds_Click(Integer card);
 // hint that tell whether it is the human's turn.
 void Cds_MouseMove(Integer card);
 
-// Whether the card is in the human's hand and its pointer and hint say what the mouse would be told
-// over it now.
+// Whether the card is in the human's hand and has the pointer and the hint that a mouse move over
+// it would set now.
 bool HintHolds(Integer card);
 
 // Plays the robot's card at `position` 1..4 of the trick: chooses it, records it and puts it on the
