@@ -26,7 +26,7 @@ class FolderFiles {
   // Raises for a file longer than `atMost` bytes.
   [[nodiscard]] std::string Read(std::string_view fileName, std::size_t atMost = LongestRecord);
 
-  // Writes a temporary file in the same folder, flushes it to the disk and renames it over the old
+  // Writes a temporary file beside the old one, flushes it to the disk and renames it over the old
   // one, so that whatever happens the file is the old or the new one whole. It keeps the
   // permissions of the old one. A link stays: what lies at its end is replaced or made. An old file
   // that the last Read or SetAside failed on is first set aside: nobody has seen what is in it.
