@@ -36,8 +36,9 @@ bool HintIsRight(const QWidget& widget, int card) {
 // What a person sees who does not move the mouse.
 bool PointerTellsWhoseTurnItIs() {
   const QWidget& window = WindowGame::Find("FrmMain");
-  const bool isThere =
-      window.underMouse() && TableTakesInput() && QApplication::mouseButtons() == Qt::NoButton;
+  const bool isThere = window.underMouse() && TableTakesInput() &&
+                       QApplication::activeModalWidget() == nullptr &&
+                       QApplication::mouseButtons() == Qt::NoButton;
   const QWidget* seen = isThere ? window.childAt(window.mapFromGlobal(QCursor::pos())) : nullptr;
   if (seen == nullptr || !seen->objectName().startsWith("Cds(")) return true;
   if (!IsInPlayersHand(seen->objectName().mid(4).chopped(1).toInt())) return true;
