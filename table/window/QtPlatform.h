@@ -13,6 +13,7 @@
 #include "table/window/desktop/Sound.h"
 #include "table/window/dialog/MessageWindow.h"
 #include "table/window/help/HelpAndAboutWindows.h"
+#include "table/window/input/KeyRepeat.h"
 #include "table/window/input/KeyUse.h"
 #include "table/window/input/PendingEvents.h"
 
@@ -62,6 +63,7 @@ class QtPlatform : public Platform {
   Sound sound_;
   EventPump pump_;
   PendingEvents pending_;
+  KeyRepeat keyRepeat_;
   KeyUse keyUse_;
   TableWindow table_;
   std::unique_ptr<MessageWindow> message_;  // made when the first message comes

@@ -223,9 +223,8 @@ TEST_F(Dialog, BelongsToTheWindowThatHadTheKeys) {
   QWidget& help = game.Find("frmHelp");
   EXPECT_EQ(ownerWhile(&help), help.windowHandle());
   EXPECT_EQ(ownerWhile(nullptr), table.windowHandle());
-  QApplication::setActiveWindow(&help);
   help.hide();
-  EXPECT_EQ(ownerWhile(QApplication::activeWindow()), table.windowHandle());
+  EXPECT_EQ(ownerWhile(&help), table.windowHandle()) << "it goes just now";
 }
 
 TEST_F(Dialog, AButtonThatIsPressedMovesItsCaptionAndWaitsForTheClick) {

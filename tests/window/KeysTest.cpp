@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QListView>
 #include <QTest>
+#include <QWindow>
 
 #include "WindowGame.h"
 #include "engine/state/GameState.h"
@@ -225,6 +226,37 @@ TEST_F(TableKeysTest, AKeyHeldDownPlaysAndBidsOnce) {
   repeat();
   game.Turn();
   EXPECT_EQ(raised, "card 5 ");
+  // Held since it has closed a box: it marks nothing either, and presses no button.
+  Click(game.Find("Table"));
+  game.Find("Cds(5)").setFocus();
+  repeat();
+  EXPECT_FALSE(game.Find("FocusMark").isVisible());
+  Show(Table.CmdDontShow);
+  game.Turn();
+  game.Find("CmdDontShow").setFocus();
+  repeat();
+  game.Turn();
+  EXPECT_EQ(HideWelcome, False);
+}
+
+// A release and a press of the same moment, which the toolkit did not recognise as one key.
+TEST_F(TableKeysTest, AKeyThatTheDesktopRepeatsIsHeldDown) {
+  Press({Qt::Key_Home});
+  const auto send = [this](QEvent::Type type, quint64 moment, Qt::Key key = Qt::Key_Return) {
+    QKeyEvent event(type, key, Qt::NoModifier, "\r");
+    event.setTimestamp(moment);
+    QApplication::sendEvent(game.Find("FrmMain").windowHandle(), &event);
+  };
+  send(QEvent::KeyPress, 1000);
+  for (const quint64 moment : {1600, 1640, 1680}) {
+    send(QEvent::KeyRelease, moment);
+    send(QEvent::KeyPress, moment);
+  }
+  send(QEvent::KeyPress, 1680, Qt::Key_Space);
+  send(QEvent::KeyRelease, 1700);
+  send(QEvent::KeyPress, 1800);
+  game.Turn();
+  EXPECT_EQ(raised, "card 5 card 5 card 5 ");
 }
 
 TEST_F(TableKeysTest, KeysInTheListOrWithCtrlMeanNothingForTheHand) {
