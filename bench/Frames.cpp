@@ -3,11 +3,14 @@
 // a new one, how often the window was painted and how long that took.
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
+#include <functional>
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEvent>
+#include <QScreen>
 #include <QTemporaryDir>
 
 #include "engine/Generator.h"
@@ -23,6 +26,25 @@ struct Paintings {
   int count = 0;
   double totalMs = 0;
   double longestMs = 0;
+};
+
+// Frames with a card on its way, and frames of the display that passed between two of them.
+struct Frames {
+  int drawn = 0;
+  int dropped = 0;
+  bool isGliding = false;
+  QElapsedTimer sinceLast;
+
+  void Count(bool goesOn, double frameMs) {
+    if (isGliding) {
+      ++drawn;
+      constexpr double nsInMs = 1e6;
+      const double passed = static_cast<double>(sinceLast.nsecsElapsed()) / nsInMs / frameMs;
+      dropped += std::max(0, static_cast<int>(std::lround(passed)) - 1);
+    }
+    isGliding = goesOn;
+    sinceLast.restart();
+  }
 };
 
 // The toolkit paints the window in answer to one event, which is watched here.
@@ -47,11 +69,11 @@ class WatchedApplication : public QApplication {
   }
 };
 
-void Print(const char* what, const Parlino::Glides& motion, const Paintings& paintings) {
+void Print(const char* what, const Frames& frames, const Paintings& paintings) {
   std::printf(
       "%s: %d frames drawn, %d dropped; painted %d times, %.1f ms on average, %.1f at most\n", what,
-      motion.FramesDrawn(), motion.FramesDropped(), paintings.count,
-      paintings.totalMs / paintings.count, paintings.longestMs);
+      frames.drawn, frames.dropped, paintings.count, paintings.totalMs / paintings.count,
+      paintings.longestMs);
 }
 
 }  // namespace
@@ -65,13 +87,17 @@ int main(int count, char* arguments[]) {
   Parlino::WriteFirstRecords();
   Parlino::DealGenerator.Seed(seed);
   bool isDealt = false;
+  Frames frames;
+  const double frameMs = 1000 / application.primaryScreen()->refreshRate();
   application.afterPainting = [&] {
+    const auto toNextFrame = platform.Motion().MsToNextFrame(platform.Ticks());
+    frames.Count(toNextFrame != Parlino::Forever, frameMs);
     if (isDealt || !Parlino::Table.FramBids.Visible) return;
     isDealt = true;
-    Print("deal", platform.Motion(), application.paintings);
+    Print("deal", frames, application.paintings);
   };
   const Parlino::Demonstrator player({});
   const int status = Parlino::RunGame();
-  Print("hand", platform.Motion(), application.paintings);
+  Print("hand", frames, application.paintings);
   return status;
 }

@@ -93,8 +93,7 @@ class Person {
   }
 
   // The program has ended; the next one is to go on from here.
-  void GetUp(const Glides& motion) {
-    framesDrawn_ += motion.FramesDrawn();
+  void GetUp() {
     saved_ = WhatIsSaved();
     hasJustSatDown_ = true;
   }
@@ -103,7 +102,6 @@ class Person {
 
   // Says how the run went, and returns whether nothing has grown or was lost.
   [[nodiscard]] bool IsLevel() const {
-    std::printf("%d frames of gliding cards drawn\n", framesDrawn_);
     const bool isLevel = allCameBack_ && first_.memory.dataKiB > 0 &&
                          last_.memory.dataKiB <= first_.memory.dataKiB + MostGrowthKiB &&
                          last_.descriptors <= first_.descriptors &&
@@ -171,7 +169,6 @@ class Person {
   int errands_ = 0;
   CardClicker cards_;
   Saved saved_;
-  int framesDrawn_ = 0;
   bool hasJustSatDown_ = false;
   bool allCameBack_ = true;
   Row first_;
@@ -185,7 +182,7 @@ void PlaySitting(Person& person, const fs::path& folder) {
   platform.person = [&person] { person.Act(); };
   SetUpGame(platform);
   RunGame();
-  person.GetUp(platform.Motion());
+  person.GetUp();
 }
 
 int Play(int hands) {

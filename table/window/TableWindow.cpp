@@ -15,8 +15,8 @@
 #include "table/window/input/PendingEvents.h"
 #include "table/window/painting/Design.h"
 #include "table/window/painting/Pictures.h"
+#include "table/window/parts/Builders.h"
 #include "table/window/parts/TableMenus.h"
-#include "table/window/parts/TableParts.h"
 
 namespace Parlino {
 
@@ -51,28 +51,26 @@ void TableWindow::BuildTable(KeyUse& keyUse) {
   // and a stray Space would press it.
   table_->setFocusPolicy(Qt::ClickFocus);
   table_->setFocus();
-  const PartsBin bin{*table_, mirror_, pending_, hints_};
-  BuildTableTop(bin);
-  BuildTrickPiles(bin);
-  BuildTrumps(bin);
-  BuildCards(bin);
-  BuildWelcomePanel(bin);
-  BuildNames(bin);
-  BuildInfoLine(bin);
-  BuildWelcomeButton(bin);
-  BuildBiddingPanel(bin);
-  BuildPlayedList(bin);
-  BuildScoreFrame(bin);
-  BuildStatusBar(bin);
-  keys_.emplace(*table_, keyUse, pending_);
+  const BuildSite site{*table_, mirror_, pending_, widgets_};
+  BuildTableTop(site);
+  BuildTrickPiles(site);
+  BuildTrumps(site);
+  BuildCards(site);
+  BuildWelcomePanel(site);
+  BuildNames(site);
+  BuildInfoLine(site);
+  BuildWelcomeButton(site);
+  BuildBiddingPanel(site);
+  BuildPlayedList(site);
+  BuildScoreFrame(site);
+  BuildStatusBar(site);
+  keys_.emplace(*table_, widgets_, keyUse, pending_);
   mirror_.KeepInFront(keys_->Mark());
 }
 
 void TableWindow::ShowModel(std::uint32_t now, std::uint32_t pauseMs) {
-  keys_->LeaveBidding();
   mirror_.ShowChanges(now, pauseMs);
   hints_.Follow();
-  keys_->Follow();
   spoken_.Tell();
   glides_.DrawFrame(now);
   if (Table.FrmMain.Visible && !isVisible()) {

@@ -11,10 +11,11 @@
 #include "table/window/mirror/Glides.h"
 #include "table/window/mirror/TableMirror.h"
 #include "table/window/parts/CardHints.h"
+#include "table/window/parts/TableWidgets.h"
 #include "table/window/pointing/RestingPointer.h"
 #include "table/window/pointing/TableKeys.h"
+#include "table/window/speaking/AssistiveTools.h"
 #include "table/window/speaking/Speaker.h"
-#include "table/window/speaking/SpokenParts.h"
 
 namespace Parlino {
 
@@ -45,8 +46,9 @@ class TableWindow : public QWidget, public Speaker {
 
   PendingEvents& pending_;
   Glides glides_;
-  TableMirror mirror_{glides_};
-  CardHints hints_;
+  TableMirror mirror_{glides_, [this] { keys_->Follow(); }};
+  TableWidgets widgets_;
+  CardHints hints_{widgets_};
   QWidget* table_;
   ScrolledTable* room_;
   SpokenChanges spoken_;

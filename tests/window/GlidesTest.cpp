@@ -15,7 +15,7 @@
 #include "table/CardDisplay.h"
 #include "table/window/desktop/DesktopMotion.h"
 #include "table/window/painting/Design.h"
-#include "table/window/parts/TableParts.h"
+#include "table/window/parts/Builders.h"
 
 namespace Parlino {
 namespace {

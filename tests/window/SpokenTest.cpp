@@ -14,8 +14,8 @@
 #include "table/CardDisplay.h"
 #include "table/MessageDialog.h"
 #include "table/TableEvents.h"
+#include "table/window/speaking/AssistiveTools.h"
 #include "table/window/speaking/SpokenNames.h"
-#include "table/window/speaking/SpokenParts.h"
 
 namespace Parlino {
 namespace {

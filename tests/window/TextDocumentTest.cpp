@@ -7,7 +7,7 @@
 #include <QTextTable>
 
 #include "richtext/Limits.h"
-#include "table/window/help/TextDocument.h"
+#include "table/window/help/DocumentWriter.h"
 
 namespace Parlino {
 namespace {

@@ -10,7 +10,7 @@
 #include "table/window/input/Keys.h"
 #include "table/window/painting/Design.h"
 #include "table/window/painting/Named.h"
-#include "table/window/speaking/SpokenParts.h"
+#include "table/window/speaking/AssistiveTools.h"
 
 namespace Parlino {
 namespace {

@@ -7,7 +7,7 @@
 #include <QTextCursor>
 #include <QWheelEvent>
 
-#include "table/window/help/TextDocument.h"
+#include "table/window/help/DocumentWriter.h"
 #include "table/window/painting/Design.h"
 
 namespace Parlino {

@@ -65,8 +65,6 @@ void Glides::Cut(const QWidget* widget) {
 void Glides::DrawFrame(std::uint32_t now) {
   if (glides_.empty() || MsToNextFrame(now) > 0) return;
   const int frame = static_cast<int>((now - firstFrame_) / frameMs_);
-  framesDropped_ += std::max(0, frame - nextFrame_);
-  ++framesDrawn_;
   nextFrame_ = std::max(frame, nextFrame_) + 1;
   std::erase_if(glides_, [&](const Glide& glide) { return !Advance(glide, now); });
 }

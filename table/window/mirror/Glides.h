@@ -29,10 +29,6 @@ class Glides {
   // How long nothing need be drawn; `Forever` when nothing glides.
   [[nodiscard]] std::uint32_t MsToNextFrame(std::uint32_t now) const;
 
-  // Frames drawn, and frames of the display that passed while one was due.
-  [[nodiscard]] int FramesDrawn() const { return framesDrawn_; }
-  [[nodiscard]] int FramesDropped() const { return framesDropped_; }
-
  private:
   struct Glide {
     QWidget* widget;
@@ -51,8 +47,6 @@ class Glides {
   std::uint32_t firstFrame_ = 0;
   int nextFrame_ = 0;
   double frameMs_ = 0;
-  int framesDrawn_ = 0;
-  int framesDropped_ = 0;
 };
 
 }  // namespace Parlino

@@ -8,17 +8,6 @@
 #include "table/window/painting/Design.h"
 
 namespace Parlino {
-namespace {
-
-// The focus goes back to the table, not to whatever comes next in the order of the Tab key.
-void HideWidget(QWidget* widget) {
-  const QWidget* focus = widget->window()->focusWidget();
-  if (focus != nullptr && (focus == widget || widget->isAncestorOf(focus)))
-    widget->parentWidget()->setFocus();
-  widget->hide();
-}
-
-}  // namespace
 
 void TableMirror::Link(const Control& control, QWidget* widget, std::function<void()> show,
                        Placing placing) {
@@ -26,23 +15,22 @@ void TableMirror::Link(const Control& control, QWidget* widget, std::function<vo
 }
 
 void TableMirror::ShowChanges(std::uint32_t now, std::uint32_t pauseMs) {
-  if (shown_ == Table.Changes) return;
   for (Tie& tie : ties_)
-    if (!shown_ || tie.control->Changed > *shown_) ShowControl(tie, {now, pauseMs});
-  RaiseChanged();
+    if (HasChanged(tie)) ShowControl(tie, {now, pauseMs});
+  moveFocus_();
+  for (const Tie& tie : ties_)
+    if (HasChanged(tie) && !tie.control->Visible) tie.widget->hide();
+  BringChangedToFront();
   shown_ = Table.Changes;
 }
 
 void TableMirror::ShowControl(Tie& tie, const Pause& pause) {
   tie.show();
   if (tie.placing != Placing::Fixed) ShowPlace(tie, pause);
-  if (tie.control->Visible)
-    tie.widget->show();
-  else if (!tie.widget->isHidden())
-    HideWidget(tie.widget);
+  if (tie.control->Visible) tie.widget->show();
   if (tie.layer == tie.control->Layer) return;
   tie.layer = tie.control->Layer;
-  toRaise_.push_back(&tie);
+  toFront_.push_back(&tie);
 }
 
 // Only what was to be seen before and still is can be seen on its way.
@@ -57,11 +45,11 @@ void TableMirror::ShowPlace(const Tie& tie, const Pause& pause) {
     tie.widget->move(place);
 }
 
-void TableMirror::RaiseChanged() {
-  if (toRaise_.empty()) return;
-  std::ranges::sort(toRaise_, {}, &Tie::layer);
-  for (const Tie* tie : toRaise_) tie->widget->raise();
-  toRaise_.clear();
+void TableMirror::BringChangedToFront() {
+  if (toFront_.empty()) return;
+  std::ranges::sort(toFront_, {}, &Tie::layer);
+  for (const Tie* tie : toFront_) tie->widget->raise();
+  toFront_.clear();
   for (QWidget* widget : front_) widget->raise();
 }
 

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "table/TableView.h"
@@ -19,7 +20,10 @@ enum class Placing { Fixed, Jumps, Glides };
 
 class TableMirror {
  public:
-  explicit TableMirror(Glides& glides) : glides_(glides) {}
+  // `moveFocus` is called at every showing, when all that appears can be seen and nothing has been
+  // hidden yet: so the focus need never fall from a widget that goes.
+  TableMirror(Glides& glides, std::function<void()> moveFocus)
+      : glides_(glides), moveFocus_(std::move(moveFocus)) {}
 
   // Ties a widget to its control. `show` puts the control's own properties into it; being visible,
   // place and layer are the mirror's. Widgets start in the order of their creation, the first at
@@ -50,13 +54,18 @@ class TableMirror {
     std::uint32_t lengthMs;
   };
 
+  // Since the last showing.
+  [[nodiscard]] bool HasChanged(const Tie& tie) const {
+    return !shown_ || tie.control->Changed > *shown_;
+  }
   void ShowControl(Tie& tie, const Pause& pause);
   void ShowPlace(const Tie& tie, const Pause& pause);
-  void RaiseChanged();
+  void BringChangedToFront();
 
   Glides& glides_;
+  std::function<void()> moveFocus_;
   std::vector<Tie> ties_;
-  std::vector<Tie*> toRaise_;
+  std::vector<Tie*> toFront_;
   std::vector<QWidget*> front_;
   std::optional<std::uint64_t> shown_;
 };

@@ -3,6 +3,7 @@
 #include "engine/TrickPlay.h"
 #include "table/CardDisplay.h"
 #include "table/window/parts/PictureView.h"
+#include "table/window/parts/TableWidgets.h"
 
 namespace Parlino {
 
@@ -14,9 +15,9 @@ void CardHints::Follow() {
       CardSet::OfPack([row](int card) { return row.Has(card) && HintHolds(ToInteger(card)); });
   for (const Integer card : toShow | shown_) {
     if (toShow.Has(card))
-      views_[card]->ShowHint(Table.Cds[card].MousePointer, Table.Cds[card].ToolTipText);
+      widgets_.cards[card]->ShowHint(Table.Cds[card].MousePointer, Table.Cds[card].ToolTipText);
     else
-      views_[card]->ShowHint(0, {});
+      widgets_.cards[card]->ShowHint(0, {});
   }
   shown_ = toShow;
 }

@@ -5,12 +5,11 @@
 
 namespace Parlino {
 
-class PictureView;
+struct TableWidgets;
 
 class CardHints {
  public:
-  // The widget of the card, which lives as long as this.
-  void Add(Integer card, PictureView* view) { views_[card] = view; }
+  explicit CardHints(const TableWidgets& widgets) : widgets_(widgets) {}
 
   // To be called when the table shows a change. The model leaves a hint on a card that has been
   // played or dealt again, and on one whose turn has passed; here it is shown only on a card that
@@ -18,7 +17,7 @@ class CardHints {
   void Follow();
 
  private:
-  Indexed<PictureView*, 1, CardsInPack> views_;
+  const TableWidgets& widgets_;
   CardSet shown_;
 };
 

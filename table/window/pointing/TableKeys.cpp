@@ -16,16 +16,12 @@
 #include "table/window/input/Keys.h"
 #include "table/window/input/PendingEvents.h"
 #include "table/window/painting/Design.h"
-#include "table/window/painting/Named.h"
 #include "table/window/parts/BidFace.h"
 #include "table/window/parts/PictureView.h"
+#include "table/window/parts/TableWidgets.h"
 
 namespace Parlino {
 namespace {
-
-QWidget* FindMember(const QWidget& table, const char* array, int index) {
-  return table.findChild<QWidget*>(MemberName(array, index));
-}
 
 // The keys that always lead the same way.
 template <class Walk>
@@ -63,14 +59,11 @@ bool GoesToSomeCard(const QKeyEvent& key) {
 
 }  // namespace
 
-TableKeys::TableKeys(QWidget& table, KeyUse& keyUse, PendingEvents& pending)
-    : table_(table), keyUse_(keyUse), pending_(pending), mark_(&table) {
+TableKeys::TableKeys(QWidget& table, const TableWidgets& widgets, KeyUse& keyUse,
+                     PendingEvents& pending)
+    : table_(table), widgets_(widgets), keyUse_(keyUse), pending_(pending), mark_(&table) {
   QCoreApplication::instance()->installEventFilter(this);
   connect(&keyUse, &KeyUse::Changed, this, &TableKeys::ShowMarks);
-}
-
-void TableKeys::LeaveBidding() {
-  if (isBidding_ && !Table.FramBids.Visible && face_->hasFocus()) GoToCard();
 }
 
 void TableKeys::Follow() {
@@ -80,7 +73,7 @@ void TableKeys::Follow() {
   if (isBidding_ && !wasBidding) {
     bid_.GoTo(1);
     GoToBid();
-  } else if (IsOnHand()) {
+  } else if (IsOnHand() || IsOnWhatGoes()) {
     GoToCard();
   }
   ShowMark();
@@ -90,6 +83,12 @@ void TableKeys::Follow() {
 bool TableKeys::IsOnHand() const {
   const QWidget* focus = table_.window()->focusWidget();
   return focus == nullptr || focus == &table_ || dynamic_cast<const PictureView*>(focus) != nullptr;
+}
+
+bool TableKeys::IsOnWhatGoes() const {
+  const QWidget* focus = table_.window()->focusWidget();
+  return (!Table.FramBids.Visible && dynamic_cast<const BidFace*>(focus) != nullptr) ||
+         (!Table.CmdDontShow.Visible && focus == widgets_.dontShow);
 }
 
 bool TableKeys::eventFilter(QObject* watched, QEvent* event) {
@@ -213,7 +212,7 @@ void TableKeys::PlayMarkedCard(const QKeyEvent& key) {
 // Only the marked one of the numbers, and of the cards, is a stop of the Tab key.
 void TableKeys::MarkBid() {
   if (face_ != nullptr) face_->setFocusPolicy(Qt::ClickFocus);
-  face_ = &dynamic_cast<BidFace&>(*FindMember(table_, "LblBids", bid_.Number()));
+  face_ = widgets_.bids[bid_.Number()];
   face_->setFocusPolicy(Qt::StrongFocus);
   face_->MarkFocus(keyUse_.IsOn());
 }
@@ -224,7 +223,7 @@ void TableKeys::GoToBid() {
 }
 
 void TableKeys::MarkCard() {
-  QWidget* card = hand_.Card() == 0 ? nullptr : FindMember(table_, "Cds", hand_.Card());
+  QWidget* card = hand_.Card() == 0 ? nullptr : widgets_.cards[hand_.Card()];
   if (card == card_) return;
   if (card_ != nullptr) card_->setFocusPolicy(Qt::NoFocus);
   if (card != nullptr) card->setFocusPolicy(Qt::TabFocus);

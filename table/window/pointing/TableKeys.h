@@ -15,18 +15,16 @@ namespace Parlino {
 class BidFace;
 class KeyUse;
 class PendingEvents;
+struct TableWidgets;
 
 class TableKeys : public QObject {
  public:
-  // The table with all its parts. The marks are shown while `keyUse` is on.
-  TableKeys(QWidget& table, KeyUse& keyUse, PendingEvents& pending);
+  // The table with its widgets. The marks are shown while `keyUse` is on.
+  TableKeys(QWidget& table, const TableWidgets& widgets, KeyUse& keyUse, PendingEvents& pending);
 
-  // To be called before the table shows a change: the focus leaves a bidding panel that goes, so
-  // that no tool reads where it would fall.
-  void LeaveBidding();
-
-  // To be called when the table shows it: bidding takes the focus when it begins, the hand gets it
-  // when it would be nowhere, and the card that the keys have reached stays marked while cards go.
+  // Decides who has the focus, to be called when the table shows a change and before it hides what
+  // goes: bidding takes it when it begins, the hand when it would be nowhere, and the card that the
+  // keys have reached stays marked while cards go.
   void Follow();
 
   // The mark, which lies in front of the cards.
@@ -42,6 +40,7 @@ class TableKeys : public QObject {
   [[nodiscard]] bool UsesMark(const QKeyEvent& key) const;
   [[nodiscard]] bool OnlyShowsMark(const QKeyEvent& key) const;
   [[nodiscard]] bool IsOnHand() const;
+  [[nodiscard]] bool IsOnWhatGoes() const;
   bool TakeKey(const QKeyEvent& key);
   bool TakeDigit(const QKeyEvent& key);
   bool TakeBidKey(const QKeyEvent& key);
@@ -56,6 +55,7 @@ class TableKeys : public QObject {
   void ShowMarks();
 
   QWidget& table_;
+  const TableWidgets& widgets_;
   KeyUse& keyUse_;
   PendingEvents& pending_;
   FocusMark mark_;

@@ -1,10 +1,10 @@
-#include "table/window/help/TextDocument.h"
+#include "table/window/help/DocumentWriter.h"
 
 #include <QTextBlock>
 #include <QTextDocument>
 
-#include "table/window/help/TextTable.h"
-#include "table/window/help/TextWriter.h"
+#include "table/window/help/ParagraphWriter.h"
+#include "table/window/help/TableWriter.h"
 #include "table/window/painting/Design.h"
 
 namespace Parlino {

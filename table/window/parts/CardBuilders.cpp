@@ -7,9 +7,9 @@
 #include "table/window/painting/Design.h"
 #include "table/window/painting/FrameBox.h"
 #include "table/window/painting/Named.h"
-#include "table/window/parts/CardHints.h"
+#include "table/window/parts/Builders.h"
 #include "table/window/parts/PictureView.h"
-#include "table/window/parts/TableParts.h"
+#include "table/window/parts/TableWidgets.h"
 #include "table/window/speaking/Speaker.h"
 #include "table/window/speaking/SpokenNames.h"
 
@@ -34,14 +34,14 @@ TablePoint EastPilePlace(int trick) {
   return {11160, 2640.0 + PileStep * (trick - 1)};
 }
 
-void BuildPile(const PartsBin& bin, Integer seat, const char* name, const TrickPile& pile,
+void BuildPile(const BuildSite& site, Integer seat, const char* name, const TrickPile& pile,
                TablePoint (*placeOf)(int trick)) {
   for (int trick = 1; trick <= TricksInHand; ++trick) {
-    auto* back = Named(new Speaking<TrickBack>(&bin.parent), MemberName(name, trick));
+    auto* back = Named(new Speaking<TrickBack>(&site.parent), MemberName(name, trick));
     back->resize(ToPixels(PileCardSize), ToPixels(PileCardSize));
     back->move(ToPixels(placeOf(trick)));
     back->speak = [seat, trick] { return SpokenTrick(seat, trick); };
-    bin.mirror.Link(pile[trick], back);
+    site.mirror.Link(pile[trick], back);
   }
 }
 
@@ -53,46 +53,46 @@ void ReportCardEvents(Speaking<PictureView>& view, int card, PendingEvents& pend
 
 }  // namespace
 
-void BuildTableTop(const PartsBin& bin) {
+void BuildTableTop(const BuildSite& site) {
   constexpr int borderWidth = 5;
-  auto* top = Named(new Speaking<FilledBox>(Colours::Green, &bin.parent), "Shape1");
+  auto* top = Named(new Speaking<FilledBox>(Colours::Green, &site.parent), "Shape1");
   top->SetBorder(Colours::Brown, borderWidth);
   top->setGeometry(ToPixels(2880, 2640, 5535, 3855));
-  bin.mirror.Link(Table.Shape1, top);
+  site.mirror.Link(Table.Shape1, top);
 }
 
-void BuildTrickPiles(const PartsBin& bin) {
-  BuildPile(bin, Player, "ImgBackP", Table.ImgBackP, PlayersPilePlace);
-  BuildPile(bin, West, "ImgBackWest", Table.ImgBackWest, WestPilePlace);
-  BuildPile(bin, North, "ImgBackNorth", Table.ImgBackNorth, NorthPilePlace);
-  BuildPile(bin, East, "ImgBackEast", Table.ImgBackEast, EastPilePlace);
+void BuildTrickPiles(const BuildSite& site) {
+  BuildPile(site, Player, "ImgBackP", Table.ImgBackP, PlayersPilePlace);
+  BuildPile(site, West, "ImgBackWest", Table.ImgBackWest, WestPilePlace);
+  BuildPile(site, North, "ImgBackNorth", Table.ImgBackNorth, NorthPilePlace);
+  BuildPile(site, East, "ImgBackEast", Table.ImgBackEast, EastPilePlace);
 }
 
-void BuildTrumps(const PartsBin& bin) {
+void BuildTrumps(const BuildSite& site) {
   constexpr int mostWidth = 120;
   constexpr double points = 12;
   auto* heading = Named(
       new CaptionLabel({Colours::LightYellow, TimesBold(points, Slope::Upright, Rule::Underline)},
-                       &bin.parent),
+                       &site.parent),
       "LblTrumps");
   heading->setGeometry(ToPixels(480, 240, 795, 285));
   heading->SizeToCaption(mostWidth);
-  bin.mirror.Link(Table.LblTrumps, heading, [heading] { heading->ShowModel(Table.LblTrumps); });
+  site.mirror.Link(Table.LblTrumps, heading, [heading] { heading->ShowModel(Table.LblTrumps); });
 
-  auto* picture = Named(new Speaking<PictureView>(&bin.parent), "imgtrumps");
+  auto* picture = Named(new Speaking<PictureView>(&site.parent), "imgtrumps");
   picture->speak = SpokenTrumps;
   picture->setGeometry(ToPixels(480, 600, 615, 495));
-  bin.mirror.Link(Table.imgtrumps, picture, [picture] { picture->ShowModel(Table.imgtrumps); });
+  site.mirror.Link(Table.imgtrumps, picture, [picture] { picture->ShowModel(Table.imgtrumps); });
 }
 
-void BuildCards(const PartsBin& bin) {
+void BuildCards(const BuildSite& site) {
   for (Integer card = 1; card <= CardsInPack; ++card) {
-    auto* view = Named(new Speaking<PictureView>(&bin.parent), MemberName("Cds", card));
+    auto* view = Named(new Speaking<PictureView>(&site.parent), MemberName("Cds", card));
     view->speak = [card] { return SpokenCard(card); };
-    ReportCardEvents(*view, card, bin.pending);
-    bin.hints.Add(card, view);
+    ReportCardEvents(*view, card, site.pending);
+    site.widgets.cards[card] = view;
     const PictureBox& box = Table.Cds[card];
-    bin.mirror.Link(
+    site.mirror.Link(
         box, view, [view, &box] { view->ShowModel(box); }, Placing::Glides);
   }
 }

@@ -8,7 +8,8 @@
 #include "table/window/painting/FrameBox.h"
 #include "table/window/painting/Named.h"
 #include "table/window/parts/BidFace.h"
-#include "table/window/parts/TableParts.h"
+#include "table/window/parts/Builders.h"
+#include "table/window/parts/TableWidgets.h"
 
 namespace Parlino {
 namespace {
@@ -25,25 +26,26 @@ QPoint BidFacePlace(int number) {
 
 }  // namespace
 
-void BuildBiddingPanel(const PartsBin& bin) {
+void BuildBiddingPanel(const BuildSite& site) {
   constexpr double points = 9.75;
   constexpr int faceSize = 375;
   const FrameLook look{Colours::Yellow, Colours::Teal,
                        TimesBold(points, Slope::Upright, Rule::Underline)};
-  auto* frame = Named(new FrameBox(look, &bin.parent), "FramBids");
+  auto* frame = Named(new FrameBox(look, &site.parent), "FramBids");
   frame->setTitle("How many tricks can you make?");
   frame->setGeometry(ToPixels(3960, 3600, 2985, 1785));
-  bin.mirror.Link(Table.FramBids, frame);
+  site.mirror.Link(Table.FramBids, frame);
   for (int number = 1; number <= TricksInHand; ++number) {
     auto* face = Named(new BidFace(frame), MemberName("LblBids", number));
+    site.widgets.bids[number] = face;
     face->resize(ToPixels(faceSize), ToPixels(faceSize));
     face->move(BidFacePlace(number));
     face->setAccessibleName(QString("Bid %1").arg(number));
-    QObject::connect(face, &QAbstractButton::clicked, [&pending = bin.pending, number] {
+    QObject::connect(face, &QAbstractButton::clicked, [&pending = site.pending, number] {
       pending.Append({ClickBid, number});
     });
     const BidButton& model = Table.LblBids[number];
-    bin.mirror.Link(model, face, [face, &model] { face->ShowModel(model); });
+    site.mirror.Link(model, face, [face, &model] { face->ShowModel(model); });
   }
 }
 

@@ -11,8 +11,9 @@
 #include "table/window/painting/Design.h"
 #include "table/window/painting/FrameBox.h"
 #include "table/window/painting/Named.h"
+#include "table/window/parts/Builders.h"
 #include "table/window/parts/PlayedList.h"
-#include "table/window/parts/TableParts.h"
+#include "table/window/parts/TableWidgets.h"
 #include "table/window/speaking/Speaker.h"
 #include "table/window/speaking/SpokenNames.h"
 
@@ -22,16 +23,16 @@ namespace {
 constexpr int AsManyAsFit = 0;
 constexpr double NamePoints = 12;
 
-void BuildWelcomeText(const PartsBin& bin, const char* name, const Label& model, QRect box,
+void BuildWelcomeText(const BuildSite& site, const char* name, const Label& model, QRect box,
                       const QFont& font) {
   auto* label = Named(new CaptionLabel({.colour = Colours::LightYellow,
                                         .font = font,
                                         .ground = Ground::None,
                                         .mostLines = AsManyAsFit},
-                                       &bin.parent),
+                                       &site.parent),
                       name);
   label->setGeometry(box);
-  bin.mirror.Link(model, label, [label, &model] { label->ShowModel(model); });
+  site.mirror.Link(model, label, [label, &model] { label->ShowModel(model); });
 }
 
 // How far a name may run before it would meet the next thing beside it, in pixels. The Player's has
@@ -49,42 +50,43 @@ void ShowName(CaptionLabel* label, int seat) {
 
 }  // namespace
 
-void BuildWelcomePanel(const PartsBin& bin) {
+void BuildWelcomePanel(const BuildSite& site) {
   constexpr double titlePoints = 72;
   constexpr double introductionPoints = 18;
   // The single card that lies on the table before the first deal must not look out from under the
   // panel: a ground of the panel's own covers the middle of the table.
-  auto* ground = Named(new Speaking<FilledBox>(Colours::Navy, &bin.parent), "WelcomeGround");
+  auto* ground = Named(new Speaking<FilledBox>(Colours::Navy, &site.parent), "WelcomeGround");
   ground->setGeometry(0, 160, ClientSize.width(), 396);
-  bin.mirror.Link(Table.LblIntro, ground);
-  BuildWelcomeText(bin, "lblTitle", Table.lblTitle, ToPixels(240, 2400, 11295, 3315),
+  site.mirror.Link(Table.LblIntro, ground);
+  BuildWelcomeText(site, "lblTitle", Table.lblTitle, ToPixels(240, 2400, 11295, 3315),
                    TimesBold(titlePoints, Slope::Italic, Rule::Underline));
-  BuildWelcomeText(bin, "LblIntro", Table.LblIntro, ToPixels(360, 5880, 11295, 2355),
+  BuildWelcomeText(site, "LblIntro", Table.LblIntro, ToPixels(360, 5880, 11295, 2355),
                    TimesBold(introductionPoints, Slope::Italic));
 }
 
-void BuildNames(const PartsBin& bin) {
+void BuildNames(const BuildSite& site) {
   for (Integer seat = Player; seat <= East; ++seat) {
     const QFont font = seat == West ? WindowFont() : TimesBold(NamePoints, Slope::Italic);
     const Ground ground = seat == West ? Ground::Strip : Ground::None;
     const LabelLook look{Colours::LightYellow, font, Qt::AlignLeft, ground, Colours::Navy};
-    auto* label = Named(new Speaking<CaptionLabel>(look, &bin.parent), MemberName("LblName", seat));
+    auto* label =
+        Named(new Speaking<CaptionLabel>(look, &site.parent), MemberName("LblName", seat));
     label->speak = [seat] { return SpokenSeat(seat); };
-    bin.mirror.Link(
+    site.mirror.Link(
         Table.LblName[seat], label, [label, seat] { ShowName(label, seat); }, Placing::Jumps);
-    if (seat == West) bin.mirror.KeepInFront(label);
+    if (seat == West) site.mirror.KeepInFront(label);
   }
 }
 
 // The line shares its place with the Player's trick pile and its right end with the score frame. It
 // stays in front, on a ground no larger than its text, and ends where the frame begins. Its voice
 // never goes, or tools would read every note again whenever the line comes back.
-void BuildInfoLine(const PartsBin& bin) {
+void BuildInfoLine(const BuildSite& site) {
   constexpr int widthBesideScores = 355;
-  auto* voice = Named(new Speaking<QWidget>(&bin.parent), "InfoVoice");
+  auto* voice = Named(new Speaking<QWidget>(&site.parent), "InfoVoice");
   voice->speak = SpokenInfo;
   voice->setGeometry(ToPixels(2760, 8400, 6855, 495));
-  bin.mirror.KeepInFront(voice);
+  site.mirror.KeepInFront(voice);
   const LabelLook look{.colour = Colours::Yellow,
                        .font = WindowFont(),
                        .ground = Ground::Strip,
@@ -93,38 +95,40 @@ void BuildInfoLine(const PartsBin& bin) {
   auto* info = Named(new Speaking<CaptionLabel>(look, voice), "LblInfo");
   info->LimitTextWidth(widthBesideScores);
   info->setGeometry(voice->rect());
-  bin.mirror.Link(Table.LblInfo, info, [info] { info->ShowModel(Table.LblInfo); });
+  site.mirror.Link(Table.LblInfo, info, [info] { info->ShowModel(Table.LblInfo); });
 }
 
-void BuildWelcomeButton(const PartsBin& bin) {
-  auto* button = Named(new QPushButton(&bin.parent), "CmdDontShow");
+void BuildWelcomeButton(const BuildSite& site) {
+  auto* button = Named(new QPushButton(&site.parent), "CmdDontShow");
+  site.widgets.dontShow = button;
   button->setGeometry(ToPixels(2880, 8520, 5775, 375));
   button->setFont(WindowFont());
   QPalette colours = LightColours(Colours::LightGrey, Colours::Peach);
   colours.setColor(QPalette::Highlight, Colours::Gold);
   button->setPalette(colours);
-  QObject::connect(button, &QPushButton::clicked, [&pending = bin.pending] {
+  QObject::connect(button, &QPushButton::clicked, [&pending = site.pending] {
     pending.Append({[](int) { return ClickDontShow(); }});
   });
-  bin.mirror.Link(Table.CmdDontShow, button,
-                  [button] { button->setText(QString::fromStdString(Table.CmdDontShow.Caption)); });
+  site.mirror.Link(Table.CmdDontShow, button, [button] {
+    button->setText(QString::fromStdString(Table.CmdDontShow.Caption));
+  });
 }
 
-void BuildPlayedList(const PartsBin& bin) {
-  auto* list = Named(new PlayedList(&bin.parent), "LstCardsPlayed");
+void BuildPlayedList(const BuildSite& site) {
+  auto* list = Named(new PlayedList(&site.parent), "LstCardsPlayed");
   list->setGeometry(ToPixels(7680, 120, 3972, 1305));
   list->setToolTip("Cards  as played this round");
   list->setAccessibleName("Cards played");
-  bin.mirror.Link(Table.LstCardsPlayed, list, [list] { list->ShowModel(Table.LstCardsPlayed); });
+  site.mirror.Link(Table.LstCardsPlayed, list, [list] { list->ShowModel(Table.LstCardsPlayed); });
 }
 
-void BuildStatusBar(const PartsBin& bin) {
+void BuildStatusBar(const BuildSite& site) {
   constexpr int panelWidth = 3000;
   constexpr double points = 9;
   static constexpr const char* tips[] = {"The target points to win the game",
                                          "The points obtained by your team",
                                          "Number of points obtained by other team"};
-  auto* bar = Named(new QWidget(&bin.parent), "StatusBar1");
+  auto* bar = Named(new QWidget(&site.parent), "StatusBar1");
   bar->setAccessibleName("Points");
   bar->setGeometry(ToPixels(0, 9150, 11760, 375));
   bar->setAutoFillBackground(true);
@@ -138,8 +142,8 @@ void BuildStatusBar(const PartsBin& bin) {
     panel->setIndent(4);
     panel->setToolTip(tips[number - 1]);
     const Label& model = Table.StatusBar1[number];
-    bin.mirror.Link(model, panel,
-                    [panel, &model] { panel->setText(QString::fromStdString(model.Caption)); });
+    site.mirror.Link(model, panel,
+                     [panel, &model] { panel->setText(QString::fromStdString(model.Caption)); });
   }
 }
 

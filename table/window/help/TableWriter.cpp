@@ -1,10 +1,10 @@
-#include "table/window/help/TextTable.h"
+#include "table/window/help/TableWriter.h"
 
 #include <algorithm>
 
 #include <QTextTable>
 
-#include "table/window/help/TextWriter.h"
+#include "table/window/help/ParagraphWriter.h"
 
 namespace Parlino {
 namespace {

@@ -3,7 +3,7 @@
 #include "table/window/painting/Design.h"
 #include "table/window/painting/Named.h"
 #include "table/window/painting/ScoreFrame.h"
-#include "table/window/parts/TableParts.h"
+#include "table/window/parts/Builders.h"
 
 namespace Parlino {
 namespace {
@@ -71,14 +71,14 @@ void AddLines(QWidget* frame) {
 
 }  // namespace
 
-void BuildScoreFrame(const PartsBin& bin) {
+void BuildScoreFrame(const BuildSite& site) {
   const FrameLook look{Colours::Pink, Colours::DarkGreen, WindowFont()};
-  auto* frame = Named(new ScoreFrame(look, &bin.parent), "FramScores");
+  auto* frame = Named(new ScoreFrame(look, &site.parent), "FramScores");
   frame->setTitle("Bidding Situation");
   frame->setGeometry(ToPixels(8880, 6240, 2895, 2895));
-  bin.mirror.Link(Table.FramScores, frame);
+  site.mirror.Link(Table.FramScores, frame);
   AddHeadings(*frame);
-  for (int row = 1; row <= ScoreFrame::Rows; ++row) AddRow(*frame, bin.mirror, row);
+  for (int row = 1; row <= ScoreFrame::Rows; ++row) AddRow(*frame, site.mirror, row);
   AddLines(frame);
 }
 

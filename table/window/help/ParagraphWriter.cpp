@@ -1,4 +1,4 @@
-#include "table/window/help/TextWriter.h"
+#include "table/window/help/ParagraphWriter.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "table/window/speaking/SpokenParts.h"
+#include "table/window/speaking/AssistiveTools.h"
 
 #include <utility>
 
