@@ -125,7 +125,7 @@ bool WindowDeeds::ChooseMenu(int item) {
   return isSeen;
 }
 
-// Opens the menus above the entry, one after the other.
+// First opens the menus that lead to the entry, one after the other.
 void WindowDeeds::ClickEntry(QAction& entry, QWidget& place) {
   auto* menu = qobject_cast<QMenu*>(&place);
   if (menu == nullptr) {
