@@ -34,7 +34,7 @@ class Run {
   // Reports what has grown, and returns whether nothing has.
   [[nodiscard]] bool IsLevel() const {
     if (first_.memory.dataKiB < 0)
-      std::fprintf(stderr, "the system does not tell the memory in use\n");
+      std::fprintf(stderr, "the system does not say how much memory is in use\n");
     else if (last_.memory.dataKiB > first_.memory.dataKiB + MostGrowthKiB)
       std::fprintf(stderr, "memory has grown by more than %ld KiB\n", MostGrowthKiB);
     else if (last_.nesting > first_.nesting)

@@ -76,7 +76,7 @@ bool WindowDeeds::Answer(int answer) {
 }
 
 bool WindowDeeds::AnswerBox(QDialog& box) {
-  session_.AddToNote("no, the box");
+  session_.AddToNote("instead, the box that is open");
   const auto buttons = box.findChildren<QAbstractButton*>();
   switch (session_.person.NextBelow(8)) {
     case 0:
