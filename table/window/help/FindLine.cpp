@@ -104,8 +104,8 @@ void FindLine::Find(QTextDocument::FindFlags direction) {
   const QTextCursor before = text_.textCursor();
   text_.moveCursor(isBackward ? QTextCursor::End : QTextCursor::Start);
   if (text_.find(words, direction))
-    return ShowFound(isBackward ? "Reached the top; continued from the end"
-                                : "Reached the end; continued from the top");
+    return ShowFound(isBackward ? "Reached top, continued from end"
+                                : "Reached end, continued from top");
   text_.setTextCursor(before);
   Say("Nothing found", false);
 }
