@@ -1,5 +1,5 @@
-// The yardstick for the game's start: a window of the same size with a menu, a status bar and 52
-// picture labels, and nothing behind them.
+// What the game's start is compared with: a window of the same size with a menu, a status bar and
+// 52 picture labels, and nothing behind them.
 #include <QApplication>
 #include <QLabel>
 #include <QMainWindow>

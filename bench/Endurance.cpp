@@ -1,6 +1,6 @@
-// parlino-endurance: plays hand after hand without a window, robots at all seats, and prints for
-// each tenth of the run what the program uses by then. Fails when memory grows after the first
-// tenth or the calls nest deeper.
+// parlino-endurance: plays hand after hand without a window, with robots at all seats, and for each
+// tenth of the run prints what the program is using. Fails if memory grows after the first tenth or
+// the calls nest deeper.
 //
 //   parlino-endurance --hands N
 
@@ -20,7 +20,7 @@ namespace Parlino {
 namespace {
 
 constexpr std::uint64_t Seed = 1;
-// What the data may grow by after the first tenth; a leak of a few bytes a hand passes it.
+// How much the data may grow after the first tenth. A leak of a few bytes a hand would exceed it.
 constexpr long MostGrowthKiB = 64;
 
 class Run {
@@ -31,10 +31,10 @@ class Run {
     std::puts("   hands  resident KiB  data KiB  deepest nesting  us a hand  error reports");
   }
 
-  // Says what has grown, and returns whether nothing has.
+  // Reports what has grown, and returns whether nothing has.
   [[nodiscard]] bool IsLevel() const {
     if (first_.memory.dataKiB < 0)
-      std::fprintf(stderr, "the system does not tell the memory in use\n");
+      std::fprintf(stderr, "the system does not say how much memory is in use\n");
     else if (last_.memory.dataKiB > first_.memory.dataKiB + MostGrowthKiB)
       std::fprintf(stderr, "memory has grown by more than %ld KiB\n", MostGrowthKiB);
     else if (last_.nesting > first_.nesting)
@@ -99,7 +99,7 @@ int Play(int hands) {
 }  // namespace Parlino
 
 int main(int count, char* arguments[]) {
-  constexpr int fewest = 10;  // so that the run has tenths
+  constexpr int fewest = 10;  // one hand for each tenth of the run
   int hands = 0;
   if (Parlino::ParseCommandLine(count, arguments,
                                 {{"--hands", Parlino::TakeNumber(hands, fewest)}}))

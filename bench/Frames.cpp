@@ -1,6 +1,6 @@
 // parlino-frames: plays one hand in the real window in real time and prints, for the deal and for
-// the whole hand, how many frames of gliding cards were drawn, how many the display showed without
-// a new one, how often the window was painted and how long that took.
+// the whole hand, how many frames of gliding cards were drawn and how many were dropped, how often
+// the window was painted and how long that took.
 
 #include <algorithm>
 #include <cmath>
@@ -47,7 +47,7 @@ struct Frames {
   }
 };
 
-// The toolkit paints the window in answer to one event, which is watched here.
+// Qt paints the window in response to one event, which is watched here.
 class WatchedApplication : public QApplication {
  public:
   using QApplication::QApplication;

@@ -20,7 +20,7 @@ namespace {
 
 constexpr std::uint64_t Seed = 1;
 
-// Whole hands, from the clearing of the table to the score dialog, South clicking random cards.
+// Whole hands, from clearing the table to the score dialog, with South clicking random cards.
 void PlayHand(benchmark::State& state) {
   HeadlessPlatform platform;
   South south(SouthKind::Random, Seed);
@@ -57,8 +57,8 @@ void DealPack(benchmark::State& state) {
 }
 BENCHMARK(DealPack);
 
-// One decision of a robot at each position, over the hands of many deals. West leads and the three
-// seats before the robot have played the lowest card of a suit that they hold.
+// One decision of a robot at each position, over the hands of many deals. West leads, and the seats
+// before the robot have each played the lowest card of their longest suit.
 template <Integer (*Choose)(Integer), int Position>
 void ChooseCard(benchmark::State& state) {
   HeadlessPlatform platform;

@@ -7,7 +7,7 @@
 
 namespace Parlino {
 
-// The sum over the mappings is exact; the kernel's quick count lags by some dozen pages.
+// The sum over all mappings is exact; the faster counter of the kernel lags by some dozen pages.
 MemoryFigures MemoryInUse() {
   std::ifstream mappings("/proc/self/smaps_rollup");
   MemoryFigures figures;
@@ -18,7 +18,7 @@ MemoryFigures MemoryInUse() {
   return figures;
 }
 
-// The look itself holds one descriptor open, which is not counted.
+// Reading the folder itself holds one descriptor open, which is not counted.
 int OpenDescriptors() {
   std::error_code error;
   int count = -1;

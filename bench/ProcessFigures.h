@@ -3,15 +3,16 @@
 
 namespace Parlino {
 
-// Memory in use, in KiB: all of it, and without what is only read from files, code above all, of
-// which a first error report or a first dialog brings in more. -1 where the system does not tell.
+// Memory in use, in KiB: all of it, and without the pages that are only read from files. Those are
+// mostly code; the first error report or dialog, for instance, loads more of it. -1 if the system
+// does not say.
 struct MemoryFigures {
   long residentKiB = -1;
   long dataKiB = -1;
 };
 MemoryFigures MemoryInUse();
 
-// -1 where the system does not tell.
+// -1 if the system does not say.
 int OpenDescriptors();
 
 // Processor time used so far, in milliseconds.

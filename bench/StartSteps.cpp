@@ -1,5 +1,5 @@
-// parlino-start-steps: starts the game once and prints what each step to the first painted window
-// takes, and then what the things take that are only made when they are first asked for.
+// parlino-start-steps: starts the game once and prints how long each step takes up to the first
+// painted window, and then how long it takes to make what is made only when it is first asked for.
 #include <cstdio>
 #include <filesystem>
 #include <functional>
@@ -33,7 +33,7 @@ void Time(const char* step, const std::function<void()>& act) {
   Print(step, static_cast<double>(clock.nsecsElapsed()) / NsInMs);
 }
 
-// The toolkit paints a window in answer to one event.
+// Qt paints a window in response to one event.
 class WatchedApplication : public QApplication {
  public:
   using QApplication::QApplication;

@@ -1,7 +1,7 @@
 // parlino-window-endurance: plays hand after hand at the window, through its widgets, with the
-// pauses cut out, and prints for each tenth of the run what the program uses by then. At every hand
-// a name is entered and help, about and statistics are looked at; every fifth hand the game is
-// saved, left and begun again. Fails when anything grows after the first tenth or a saved game does
+// pauses cut out, and for each tenth of the run prints what the program is using. In every hand a
+// name is entered and help, about and statistics are opened; after every fifth hand the game is
+// saved, left and started again. Fails if anything grows after the first tenth or a saved game does
 // not come back.
 //
 //   parlino-window-endurance --hands N
@@ -45,8 +45,8 @@ int ObjectsBelow(const QObject& root) {
   return 1 + static_cast<int>(root.findChildren<QObject*>().size());
 }
 
-// Every new window leaves pictures of its buttons in the toolkit's own store, which fills up to its
-// limit of 10 MiB. What it holds is not counted: it would hide a growth of ours.
+// Each new window leaves pictures of its buttons in Qt's pixmap cache, which fills up to its limit
+// of 10 MiB. The cache is not counted, because it would hide a leak in the game.
 Row TakeRow() {
   QPixmapCache::clear();
   Row row{MemoryInUse(), OpenDescriptors(), ObjectsBelow(*qApp), 0};
@@ -77,7 +77,7 @@ class Person {
         "   hands  resident KiB  data KiB  descriptors  objects  widgets  processor ms a hand");
   }
 
-  // Asked before every wait.
+  // Called before every wait.
   void Act() {
     if (hasJustSatDown_) LookWhetherAllIsAsLeft();
     if (QDialog* box = OpenBox())
@@ -92,7 +92,7 @@ class Person {
       cards_.ClickNext();
   }
 
-  // The program has ended; the next one is to go on from here.
+  // The program has ended; the next one must continue from here.
   void GetUp() {
     saved_ = WhatIsSaved();
     hasJustSatDown_ = true;
@@ -100,7 +100,7 @@ class Person {
 
   [[nodiscard]] bool IsDone() const { return played_ >= hands_; }
 
-  // Says how the run went, and returns whether nothing has grown or was lost.
+  // Reports how the run went, and returns whether nothing has grown or was lost.
   [[nodiscard]] bool IsLevel() const {
     const bool isLevel = allCameBack_ && first_.memory.dataKiB > 0 &&
                          last_.memory.dataKiB <= first_.memory.dataKiB + MostGrowthKiB &&
@@ -132,7 +132,7 @@ class Person {
     Click(WindowGame::FindMember("Label1", leaves ? 1 : 0));
   }
 
-  // One after the other while the game waits for the bid.
+  // Does one errand after the other while the game waits for the bid.
   void DoErrand() {
     switch (errands_++) {
       case 0:
@@ -176,7 +176,7 @@ class Person {
   double rowBegan_ = ProcessorMs();
 };
 
-// Each sitting is a program of its own, from its start to its end, in the same process.
+// Each sitting is one run of the program, from start to end, in the same process.
 void PlaySitting(Person& person, const fs::path& folder) {
   QuickPlatform platform(folder);
   platform.person = [&person] { person.Act(); };
@@ -200,7 +200,7 @@ int Play(int hands) {
 }  // namespace Parlino
 
 int main(int count, char* arguments[]) {
-  constexpr int fewest = 10;  // so that the run has tenths
+  constexpr int fewest = 10;  // one hand for each tenth of the run
   int hands = 0;
   if (!Parlino::ParseCommandLine(count, arguments,
                                  {{"--hands", Parlino::TakeNumber(hands, fewest)}})) {
@@ -208,7 +208,7 @@ int main(int count, char* arguments[]) {
     return 2;
   }
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  // A platform without a screen warns at every window that is shown.
+  // A platform without a screen prints a warning for each window that is shown.
   QLoggingCategory::setFilterRules("default.warning=false");
   const QApplication application(count, arguments);
   return Parlino::Play(hands);

@@ -1,4 +1,4 @@
-// The data files of a new game, for tests and tools that must not touch a player's own.
+// The data files of a new game, for tests and tools that must not touch a player's own files.
 #pragma once
 
 #include "persistence/DataFiles.h"
@@ -6,7 +6,7 @@
 
 namespace Parlino {
 
-// Gives the platform the four files of a new game, in place of those it has.
+// Writes the four files of a new game, in place of those that the platform has.
 inline void WriteFirstRecords() {
   for (const FirstRecord& first : FirstRecords) ThePlatform().ReplaceFile(first.file, first.record);
 }

@@ -1,4 +1,4 @@
-// The platform without a window: time is virtual, files live in memory, and a script plays the
+// The platform without a window: time is virtual, files are kept in memory, and a script plays the
 // person. A pause takes no real time but goes through the same states as at the table.
 #pragma once
 
@@ -19,12 +19,12 @@ struct ScriptHasNothingToSay {};
 
 class HeadlessPlatform : public Platform {
  public:
-  // Begins with the data files of a new game. Ticks and clock start at fixed values, so that runs
+  // Starts with the data files of a new game. Ticks and clock start at fixed values, so that runs
   // can be repeated.
   HeadlessPlatform();
 
-  // Called whenever the game processes events, with the time for which it is ready to wait. It
-  // looks at the table as a person would and raises events through the table's doors.
+  // Called whenever the game processes events, with the time that it would wait. The script looks
+  // at the table as a person would and fires events through the table's doors.
   std::function<void(std::uint32_t atMostMs)> script = [](std::uint32_t) {};
   // How often the game may wait in vain before the script counts as finished.
   int mostIdleCalls = 100;
@@ -35,12 +35,12 @@ class HeadlessPlatform : public Platform {
   // Called for each plain message box.
   std::function<void(std::string_view text)> onMsgBox = [](std::string_view) {};
 
-  // By the name under which they are asked for, a plain name or a full path.
+  // Keyed by the name under which they are asked for, a plain name or a full path.
   std::map<std::string, std::string, std::less<>> files;
   bool filesCanBeWritten = true;
   std::string programFolder = "/parlino/";
 
-  // The registry under its root RegistryLocalMachine: its values by key and name, and the rights
+  // The registry below the root RegistryLocalMachine: its values by key and name, and the rights
   // with which a key can be opened.
   struct ScriptedValue {
     std::uint32_t type;
@@ -48,7 +48,7 @@ class HeadlessPlatform : public Platform {
   };
   std::map<std::pair<std::string, std::string>, ScriptedValue> registry;
   std::uint32_t registryRights = RegistryFullAccess;
-  bool registryRaises = false;  // when a value is read
+  bool registryRaises = false;  // whether reading a value raises an error
 
   // What was shown and heard, in order, one line each; kept only while `keepsRecord` is set.
   std::vector<std::string> record;
@@ -56,7 +56,7 @@ class HeadlessPlatform : public Platform {
 
   std::uint32_t ticks = 0;
   std::uint32_t clockAtStart = 43'200'000;  // milliseconds since midnight
-  int depth = 0;                            // of ProcessEvents inside ProcessEvents
+  int depth = 0;                            // calls of ProcessEvents nested inside each other
   int deepest = 0;
 
   void ProcessEvents(std::uint32_t atMostMs) override;

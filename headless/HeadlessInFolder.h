@@ -1,4 +1,4 @@
-// The platform without a window, with its files in a folder on the disk.
+// The platform without a window, but with its files in a folder on the disk.
 #pragma once
 
 #include <filesystem>

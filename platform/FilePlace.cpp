@@ -85,7 +85,7 @@ mode_t PermissionsFor(const FilePlace& place, int newFile) {
   const mode_t kept = (old->st_mode & all) | S_IRUSR;
   struct stat made {};
   if (::fstat(newFile, &made) == 0 && made.st_gid == old->st_gid) return kept;
-  // The members of either group count as others for the other one.
+  // The members of each group count as others for the other group.
   const mode_t common = kept & (kept >> 3) & ofOne;
   return (kept & S_IRWXU) | common << 3 | common;
 }

@@ -44,7 +44,7 @@ class Platform {
   virtual ~Platform() = default;
 
   // Shows what has changed in the table model, sleeps until an event arrives or `atMostMs`
-  // milliseconds have passed, and raises the table's events that have arrived. Handlers run inside
+  // milliseconds have passed, and fires the table's events that have arrived. Handlers run inside
   // this call, so it may throw HandAbandoned or ProgramEnded.
   virtual void ProcessEvents(std::uint32_t atMostMs) = 0;
 

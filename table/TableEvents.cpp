@@ -7,7 +7,7 @@
 namespace Parlino {
 namespace {
 
-bool Raise(TableEvents::Handler handler) {
+bool Fire(TableEvents::Handler handler) {
   if (!TableTakesInput() || handler == nullptr) return false;
   handler();
   return true;
@@ -49,15 +49,15 @@ bool ClickBid(int tricks) {
 }
 
 bool ClickDontShow() {
-  return Table.CmdDontShow.Visible && Raise(Events.CmdDontShow_Click);
+  return Table.CmdDontShow.Visible && Fire(Events.CmdDontShow_Click);
 }
 
 bool ChooseMenu(MenuItem item) {
-  return Raise(Events.MenuClick[static_cast<int>(item)]);
+  return Fire(Events.MenuClick[static_cast<int>(item)]);
 }
 
 bool CloseTableWindow() {
-  return Raise(Events.Form_QueryUnload);
+  return Fire(Events.Form_QueryUnload);
 }
 
 bool PressAnswer(int button) {

@@ -1,5 +1,5 @@
-// The events of the table and the doors through which they are raised. A person at the window, a
-// script and a test all come in here. A door raises its event only when a person could reach the
+// The events of the table and the doors through which they are fired. A person at the window, a
+// script and a test all come in here. A door fires its event only when a person could reach the
 // control: while it is visible and no dialog is in front of it.
 #pragma once
 
@@ -45,7 +45,7 @@ inline TableEvents Events;
 // been answered still counts: a command let in then would run inside the one that asked.
 bool TableTakesInput();
 
-// Each raises its event and returns true, or does nothing and returns false.
+// Each fires its event and returns true, or does nothing and returns false.
 bool ClickCard(int card);
 bool HoverCard(int card);
 bool ClickBid(int tricks);

@@ -119,7 +119,7 @@ void UnloadAllForms() {
   for (const WindowName window :
        {WindowName::frmAbout, WindowName::MFormDeluxe, WindowName::FrmMain, WindowName::frmHelp})
     ThePlatform().CloseWindow(window);
-  // This shuts the doors: no event is raised any more.
+  // This shuts the doors: no event is fired any more.
   Hide(Table.FrmMain);
   MFormDeluxe.Visible = false;
   throw ProgramEnded{};

@@ -45,9 +45,8 @@ QtPlatform::QtPlatform(const std::filesystem::path& folder)
 
 void QtPlatform::ProcessEvents(std::uint32_t atMostMs) {
   ShowModel(atMostMs);
-  if (pending_.IsEmpty())
-    WaitForToolkit(std::min(atMostMs, table_.Motion().MsToNextFrame(Ticks())));
-  RaisePendingEvents();
+  if (pending_.IsEmpty()) WaitForQt(std::min(atMostMs, table_.Motion().MsToNextFrame(Ticks())));
+  FirePendingEvents();
 }
 
 void QtPlatform::ShowModel(std::uint32_t pauseMs) {
@@ -68,14 +67,14 @@ void QtPlatform::MakeRoomForMessage() {
   PutBefore(isThere ? active : &table_, *message_);
 }
 
-void QtPlatform::WaitForToolkit(std::uint32_t atMostMs) {
+void QtPlatform::WaitForQt(std::uint32_t atMostMs) {
   pump_.Wait(atMostMs);
   if (pump_.EndIsWanted()) UnloadAllForms();
 }
 
-// An event is taken off before it is raised: its handler may process events in turn, or never
+// An event is taken off before it is fired: its handler may process events in turn, or never
 // return here.
-void QtPlatform::RaisePendingEvents() {
+void QtPlatform::FirePendingEvents() {
   while (const auto event = pending_.TakeFirst()) event->door(event->number);
 }
 
@@ -104,7 +103,7 @@ void QtPlatform::ShowAndWait(QDialog& box) {
   box.show();
   while (box.isVisible()) {
     ShowModel(Forever);
-    WaitForToolkit(table_.Motion().MsToNextFrame(Ticks()));
+    WaitForQt(table_.Motion().MsToNextFrame(Ticks()));
   }
   pending_.Clear();
 }

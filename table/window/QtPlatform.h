@@ -1,5 +1,5 @@
-// The platform with a window. The toolkit's handlers never call the game: they append to the
-// pending events, which ProcessEvents raises when no frame of the toolkit is on the stack, so that
+// The platform with a window. Qt's handlers never call the game: they append to the
+// pending events, which ProcessEvents fires when no function of Qt is on the stack, so that
 // a handler may leave by an exception.
 #pragma once
 
@@ -50,12 +50,12 @@ class QtPlatform : public Platform {
 
  protected:
   // Lets the toolkit work while the game waits; all waiting goes through here.
-  virtual void WaitForToolkit(std::uint32_t atMostMs);
+  virtual void WaitForQt(std::uint32_t atMostMs);
 
  private:
   void ShowModel(std::uint32_t pauseMs);
   void MakeRoomForMessage();
-  void RaisePendingEvents();
+  void FirePendingEvents();
   void ShowAndWait(QDialog& box);
   QWidget* OwnerOfBoxes();
 

@@ -1,5 +1,6 @@
-# Puts the sounds, the help document and the first data files into the program's folder. A data file
-# that is already there belongs to the player and stays as it is, and so does a link, wherever it leads.
+# Puts the sounds, the help document and the initial data files into the program's folder. A data
+# file that is already there belongs to the player and stays as it is; so does a link, wherever it
+# leads.
 #   cmake -DASSETS=... -DFOLDER=... -P StockFolder.cmake
 file(COPY ${ASSETS}/sounds/ DESTINATION ${FOLDER} FILES_MATCHING PATTERN "*.wav")
 if(EXISTS ${ASSETS}/help/ParlinoHelp.rtf)

@@ -38,8 +38,8 @@ TableWindow::TableWindow(KeyUse& keyUse, PendingEvents& pending)
   layout->setMenuBar(menus);
   layout->addWidget(room_);
   BuildTable(keyUse);
-  // In less room the bar would put menus behind a button, whose menu runs a loop of the toolkit's
-  // own: the game would stand still meanwhile.
+  // In less room the bar would put menus behind a button, whose menu runs an event loop of
+  // its own: the game would stand still meanwhile.
   setMinimumWidth(menus->sizeHint().width());
 }
 

@@ -25,7 +25,7 @@ class About : public testing::Test {
     game.Turn();
     QApplication::setActiveWindow(&Window());
   }
-  // A button that is pressed by its access key takes a moment to come up again.
+  // A button pressed by its access key takes a moment to be released again.
   bool TurnUntil(const std::function<bool()>& isDone) {
     return QTest::qWaitFor([&] {
       game.Turn();

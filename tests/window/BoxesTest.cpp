@@ -15,7 +15,7 @@
 namespace Parlino {
 namespace {
 
-// A desktop that puts pictures on the buttons of boxes.
+// A desktop that puts icons on the buttons of boxes.
 class PictureStyle : public QProxyStyle {
  public:
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -1,4 +1,4 @@
-// What a person does with the mouse and the keys, and the event that comes of it.
+// What a person does with the mouse and the keys, and the event that results from it.
 #include <gtest/gtest.h>
 #include <string>
 
@@ -118,7 +118,7 @@ TEST_F(Clicks, OnTheWelcomeButtonAreRaisedThoughTheInformationLineLiesThereToo) 
   EXPECT_EQ(raised, "don't show 0 ");
 }
 
-// Two events are waiting when the first one leaves by an exception.
+// Two events are waiting when the handler of the first one throws.
 TEST_F(Clicks, WaitForTheNextTurnWhenAHandlerLeaves) {
   ShowTable();
   Events.Cds_Click = [](Integer) { throw HandAbandoned{}; };

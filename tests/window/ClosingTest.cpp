@@ -61,7 +61,7 @@ TEST(Closing, AnOpenMenuGoesWithTheTable) {
   EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 }
 
-// Also while a box is open, where no event of the table is raised.
+// This holds even while a box is open, when no event of the table is raised.
 TEST(Closing, TheEndOfTheSessionEndsTheProgramAtOnce) {
   for (const bool isBoxOpen : {false, true}) {
     WindowGame game;

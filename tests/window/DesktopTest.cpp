@@ -1,4 +1,5 @@
-// The window on small screens, beside others and on desktops with colours and letters of their own.
+// The window on small screens, beside other windows, and on desktops with their own colours and
+// fonts.
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -70,7 +71,7 @@ TEST_F(DesktopWindow, ThePageKeysScrollWhereverTheFocusIs) {
   }
 }
 
-// It would slip away from under the mouse, and the click be lost.
+// Otherwise it would slip away from under the mouse, and the click would be lost.
 TEST_F(DesktopWindow, AControlThatIsPressedStaysWhereItIs) {
   window.resize(640, 240);
   game.Turn();
@@ -83,7 +84,7 @@ TEST_F(DesktopWindow, AControlThatIsPressedStaysWhereItIs) {
   EXPECT_EQ(button.mapTo(&window, QPoint(12, 18)), spot);
 }
 
-// What the desktop colours is the status bar and the scroll bars alone.
+// Only the status bar and the scroll bars take the desktop's colours.
 TEST_F(DesktopWindow, NothingOnTheTableIsRecolouredByADarkDesktop) {
   const QPalette light = QApplication::palette();
   const QFont font = QApplication::font();
@@ -102,7 +103,7 @@ TEST_F(DesktopWindow, NothingOnTheTableIsRecolouredByADarkDesktop) {
   EXPECT_TRUE(before == after);
 }
 
-// At a display with a window manager as well, which has frames with two sides that differ.
+// Also run on a display with a window manager, whose frames are not the same on all sides.
 TEST_F(DesktopWindow, EveryWindowOpensInTheMiddleFrameIncluded) {
   game.platform.ReplaceFile("ParlinoHelp.rtf", "{\\rtf1 Rules}");
   ChooseMenu(MenuItem::MnuRules);
@@ -118,7 +119,7 @@ TEST_F(DesktopWindow, EveryWindowOpensInTheMiddleFrameIncluded) {
   }
 }
 
-// Windows of their own would leave lines of moving cards behind at scales that are not whole.
+// As windows of their own, they would leave lines behind moving cards at fractional scales.
 TEST_F(DesktopWindow, ABoxMakesNoWindowsOfThePartsOfTheTable) {
   game.platform.person = [] { OpenBox()->accept(); };
   game.platform.InputBox("prompt", "title", "default");

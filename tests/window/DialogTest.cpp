@@ -1,4 +1,4 @@
-// The message dialog: how it looks, and that only its buttons end it.
+// The message dialog: how it looks, and that nothing but its buttons ends it.
 #include <gtest/gtest.h>
 #include <utility>
 
@@ -21,7 +21,8 @@ class Dialog : public testing::Test {
  protected:
   Dialog() { game.Load(); }
 
-  // Shows a dialog with two answers; the person acts once the dialog is up, until one is chosen.
+  // Shows a dialog with two answers. Once it is open the person acts, again and again, until one is
+  // chosen.
   Integer Ask(std::function<void()> person, const std::string& prompt = "Shall we?") {
     MessageChoice = -1;
     game.platform.person = [&] {
@@ -43,7 +44,7 @@ TEST_F(Dialog, AnswersAreClicked) {
   }
 }
 
-// By keys typed at once; -1 when they are no answer.
+// Answers given by typing keys without a pause; -1 if they do not answer.
 class DialogKeys : public Dialog {
  protected:
   void SitDown(bool playsByKeys) {
@@ -111,7 +112,7 @@ TEST_F(DialogKeys, TakeTheAnswerThatIsMarkedAndNoOther) {
   }
 }
 
-// The window stays when one question follows another at once.
+// The window stays open when one question directly follows another.
 TEST_F(DialogKeys, EachShowingBeginsAtItsOwnAnswer) {
   SitDown(true);
   EXPECT_EQ(AnswerByKeys(0, {Qt::Key_Return}), 0);
@@ -204,7 +205,7 @@ TEST_F(Dialog, NothingElseClosesIt) {
   EXPECT_EQ(answer, 1);
 }
 
-// The desktop gives the keys back to the window that the dialog belongs to.
+// The desktop returns the focus to the window that the dialog belongs to.
 TEST_F(Dialog, BelongsToTheWindowThatHadTheKeys) {
   game.platform.ReplaceFile("ParlinoHelp.rtf", "{\\rtf1 Rules}");
   const auto ownerWhile = [this](QWidget* active) {
@@ -236,7 +237,7 @@ TEST_F(Dialog, AButtonThatIsPressedMovesItsCaptionAndWaitsForTheClick) {
       case 0:
         EXPECT_EQ(caption.geometry(), QRect(1, 1, face.width() - 2, face.height() - 2));
         return QTest::mousePress(&caption, Qt::LeftButton);
-      case 1:  // shown with the next change
+      case 1:  // the change is not shown until the next turn
         return;
       case 2:
         EXPECT_EQ(caption.geometry(), QRect(2, 2, face.width() - 3, face.height() - 3));

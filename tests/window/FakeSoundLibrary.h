@@ -1,5 +1,5 @@
-// A library with the name and the entries of the desktop's sound library, which the program finds
-// in its place. What it plays never ends by itself.
+// A library with the name and the functions of the desktop's sound library, which the program finds
+// in place of the real one. The sounds it plays never end by themselves.
 #pragma once
 
 #include <cstdint>
@@ -13,7 +13,7 @@ inline constexpr int DeviceIsBusy = -12;
 
 struct FakeSounds {
   std::map<std::string, int> errors;  // by file name
-  bool deviceTakesOne = false;        // and has it until its library is closed
+  bool deviceTakesOne = false;        // and keeps it until its library is closed
   std::vector<std::string> asked;     // file names
   std::multimap<std::uint32_t, std::string> playing;
 };

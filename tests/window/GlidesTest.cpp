@@ -1,4 +1,4 @@
-// Cards on their way: never beside it, never late, and no time taken from the game.
+// Cards in motion: never off their path, never late, and without taking time from the game.
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
@@ -29,7 +29,7 @@ class Motion : public testing::Test {
     game.Turn();
   }
 
-  // Lets `ms` of a pause of `pauseMs` go by.
+  // Lets `ms` milliseconds of a pause of `pauseMs` pass.
   void Pass(std::uint32_t ms, std::uint32_t pauseMs) {
     const std::uint32_t begun = game.platform.Ticks();
     for (std::uint32_t gone = 0; gone < ms; gone = game.platform.Ticks() - begun)
@@ -44,8 +44,8 @@ double Distance(QPoint a, QPoint b) {
   return std::hypot(a.x() - b.x(), a.y() - b.y());
 }
 
-// Sees every painting of a card, and tells when it stood beside the way from the place the model
-// had given it before to the one it has now.
+// Watches every painting of a card and reports when the card was off the path from its previous
+// place in the model to its present one.
 class WayWatcher : public QObject {
  public:
   WayWatcher() {
@@ -86,7 +86,7 @@ class WayWatcher : public QObject {
   Indexed<Way, 1, CardsInPack> ways_;
 };
 
-// The counter of ticks wraps in the middle of the second and the third deal.
+// The tick counter wraps in the middle of the second and the third deal.
 TEST_F(Motion, ADealDrawsNoCardBesideItsWay) {
   constexpr std::uint32_t dealMs = CardsInPack * 2 * 25;
   WayWatcher watcher;
@@ -135,7 +135,7 @@ TEST_F(Motion, ACardIsThereBeforeThePauseEndsAndSlowsDownOnItsWay) {
   }
 }
 
-// The pause is over when the machine wakes up; the next one begins with another card.
+// The pause is over when the machine wakes up; in the next one another card begins to move.
 TEST_F(Motion, AfterASleepOfAnyLengthTheCardIsThereAndTheNextOneGlides) {
   const QWidget& next = game.Find("Cds(51)");
   for (const std::uint32_t asleepMs : {3'600'000U, 0x7FFFFFFFU, 0xFFFF0000U}) {

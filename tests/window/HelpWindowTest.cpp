@@ -40,7 +40,7 @@ class Help : public testing::Test {
   static int LetterSize() {
     return Text().document()->firstBlock().begin().fragment().charFormat().font().pixelSize();
   }
-  // To whatever has the focus, as a keyboard does.
+  // Sends the key to whatever has the focus, as a keyboard does.
   static void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
     QTest::keyClick(Window().focusWidget(), key, modifiers);
   }
@@ -88,7 +88,7 @@ TEST_F(Help, EveryWayOutHidesItAndTheTextComesAfresh) {
   }
 }
 
-// However it was left, and also when it is still open.
+// This holds however it was left, and even if it is still open.
 TEST_F(Help, EachShowingIsReadByTheKeysFromTheTop) {
   const auto openFindLine = [] { Press(Qt::Key_F, Qt::ControlModifier); };
   const std::function<void()> waysToLeaveIt[] = {[] {}, [] { Click(WindowGame::Find("btnClose")); },

@@ -1,5 +1,5 @@
-// The pointer and the tool tip over a card: they tell the truth, also to a pointer that nobody
-// moves, and they are on no card but those of the Player's hand.
+// The pointer and the tool tip over a card: they tell the truth, even if the mouse does not move,
+// and they appear only on cards of the Player's hand.
 #include <functional>
 #include <gtest/gtest.h>
 #include <string>
@@ -30,7 +30,7 @@ QWidget& CardWidget(int card) {
   return WindowGame::FindMember("Cds", card);
 }
 
-// "play", "wait", or nothing where the ordinary pointer is shown and there is no tip.
+// "play", "wait", or nothing if the card shows the ordinary pointer and has no tip.
 std::string HintOn(int card) {
   const QWidget& widget = CardWidget(card);
   const bool hasPointer = widget.testAttribute(Qt::WA_SetCursor);
@@ -66,11 +66,11 @@ class Hints : public testing::Test {
     raised.clear();
   }
 
-  // Longer than anything needs to be told and shown.
+  // More turns than it takes for anything to be reported and shown.
   void Settle() {
     for (int turn = 1; turn <= 5; ++turn) game.Turn();
   }
-  // Where the card is seen also when the next one lies over it.
+  // A spot of the card that is visible even when the next card covers the rest.
   static QPoint SpotOf(int card) { return CardWidget(card).mapToGlobal(QPoint(8, 48)); }
 
   void PutPointer(QPoint place) {
@@ -86,7 +86,7 @@ class Hints : public testing::Test {
     PlayerTurn = True;
     Settle();
   }
-  // As the toolkit does when the pointer has rested for a moment.
+  // As Qt does when the mouse has rested for a moment.
   static void OpenTip(int card) {
     QWidget& widget = CardWidget(card);
     const QPoint spot(8, 48);
@@ -192,7 +192,7 @@ TEST_F(Hints, WaitUntilADialogIsAnsweredAndThenHold) {
   }
 }
 
-// Neither is anything left waiting that would keep the game awake.
+// Nor is anything left in the queue, which would keep the game awake.
 TEST_F(Hints, WaitWhileThePlayerCouldNotMoveThePointerThere) {
   QWindow* window = game.Find("FrmMain").windowHandle();
   const QPointF spot = window->mapFromGlobal(SpotOf(18));
@@ -235,7 +235,7 @@ TEST_F(Hints, FollowTheCardsThatComeToLieBelowThePointer) {
   Settle();
   EXPECT_EQ(raised, "over 44 ");
   EXPECT_EQ(HintOn(44), "wait");
-  EXPECT_TRUE(CardWidget(44).underMouse()) << "the toolkit shows the pointer of this card";
+  EXPECT_TRUE(CardWidget(44).underMouse()) << "Qt shows the pointer of this card";
   PutPointer(CardWidget(44).mapToGlobal(QPoint(66, 48)));
   raised.clear();
   Pack[18].Owner = NoSeat;
@@ -305,7 +305,7 @@ TEST_F(Hints, ThatAreOpenAsATipGoWhenTheyDoNotHoldAnyMore) {
   EXPECT_TRUE(TipGoes()) << "the card has been played, by a key";
 }
 
-// Opens tips at once, so that a test need not wait for them.
+// Opens tool tips at once, so that a test need not wait for them.
 class QuickTips : public QProxyStyle {
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* answer) const override {
@@ -333,7 +333,7 @@ TEST_F(Hints, OpenAsATipForNobodyWhoDoesNotMoveThePointer) {
   EXPECT_FALSE(tipOpens()) << "another card has come";
 }
 
-// The model keeps them there until the card is in the hand again and the mouse comes to it.
+// The model keeps them there until the card is in the hand again and the mouse moves over it.
 TEST_F(Hints, AreOnNoCardButThoseInThePlayersHand) {
   const std::pair<const char*, void (*)()> cases[] = {
       {"dealt to North", [] { Pack[18].Owner = North, ShowNorthHand(); }},

@@ -1,4 +1,4 @@
-// The game played by the keys: whole games, and where the focus is meanwhile.
+// The game played with the keys: whole games, and where the focus is meanwhile.
 #include <gtest/gtest.h>
 #include <utility>
 
@@ -25,7 +25,7 @@ std::string FocusName() {
   return Focus() == nullptr ? std::string() : Focus()->objectName().toStdString();
 }
 
-// Knows nothing but the keys and what is to be seen; one key at a time.
+// Uses only the keys and what can be seen on the table; presses one key at a time.
 class KeyPlayer {
  public:
   std::string bid = "3";
@@ -43,7 +43,7 @@ class KeyPlayer {
   }
 
  private:
-  // "Next Hand" is the first answer; a game that is over is left by the second.
+  // "Next Hand" is the first answer; when the game is over, the second one exits.
   void Answer() {
     ++hands;
     if (QApplication::activeModalWidget()->windowTitle() != "Game Over")
@@ -87,7 +87,7 @@ TEST(Keys, BidWithTwoDigits) {
   EXPECT_EQ(Bids[Player], 12);
 }
 
-// The place in the Player's row of the card that has the focus, 1 for the first; 0 without one.
+// The place of the focused card in the Player's row, 1 for the first; 0 if none has the focus.
 int PlaceOfFocus() {
   const CardSet row = PlayersRow();
   for (const Integer card : row)
@@ -95,8 +95,9 @@ int PlaceOfFocus() {
   return 0;
 }
 
-// The focus is in the panel as long as it is open; afterwards on a card of the hand, at its place
-// in the row when the card there has been played, or at the end of a row that has become shorter.
+// While the panel is open the focus is in it. Afterwards it is on a card of the hand: at the same
+// place in the row when the card there has been played, or at the end of a row that has become
+// shorter.
 TEST(Keys, TheFocusIsWhereThePlayerNeedsIt) {
   WindowGame game;
   KeyPlayer player;
@@ -110,7 +111,7 @@ TEST(Keys, TheFocusIsWhereThePlayerNeedsIt) {
     if (PlayerTurn == False) return player.Act();
     const int expected = played == 0 ? 1 : std::min<int>(placeBefore, PlayersRow().Count());
     EXPECT_EQ(PlaceOfFocus(), expected) << played;
-    // To another place for each card, the ends among them.
+    // Moves to a different place for each card, including the two ends.
     if (++played % 3 == 0) PressKey(Qt::Key_End);
     if (played % 5 == 0) PressKey(Qt::Key_Home);
     PressKey(Qt::Key_Up);
@@ -166,7 +167,7 @@ TEST_F(TableKeysTest, NothingIsPlayedOrBidThatWasNotMarked) {
       EXPECT_EQ(raised, "") << isBidding;
     }
   }
-  // A button that was pressed by the mouse after all, and let go elsewhere.
+  // A button that was pressed with the mouse, which was then released elsewhere.
   Press({Qt::Key_Right});
   QTest::mousePress(&game.Find("LblBids(11)"), Qt::LeftButton);
   QTest::mouseRelease(&game.Find("LblBids(11)"), Qt::LeftButton, {}, {-50, 0});
@@ -184,7 +185,7 @@ TEST_F(TableKeysTest, ThePanelOpensAtOneAndTheMarkOfANumberIsSeen) {
     const QImage plain = game.Find("LblBids(7)").grab().toImage();
     Press({Qt::Key_7});
     EXPECT_NE(game.Find("LblBids(7)").grab().toImage(), plain);
-    std::string way;  // of the focus, for tools read every stop
+    std::string way;  // the path of the focus, because tools read out every stop
     const auto watching =
         QObject::connect(qApp, &QApplication::focusChanged, [&way] { way += FocusName() + " "; });
     Hide(Table.FramBids);
@@ -226,7 +227,7 @@ TEST_F(TableKeysTest, AKeyHeldDownPlaysAndBidsOnce) {
   repeat();
   game.Turn();
   EXPECT_EQ(raised, "card 5 ");
-  // Held since it has closed a box: it marks nothing either, and presses no button.
+  // Held down since it closed a box: it marks nothing and presses no button.
   Click(game.Find("Table"));
   game.Find("Cds(5)").setFocus();
   repeat();
@@ -239,7 +240,7 @@ TEST_F(TableKeysTest, AKeyHeldDownPlaysAndBidsOnce) {
   EXPECT_EQ(HideWelcome, False);
 }
 
-// A release and a press of the same moment, which the toolkit did not recognise as one key.
+// A release and a press with the same timestamp, which Qt did not recognise as a repeated key.
 TEST_F(TableKeysTest, AKeyThatTheDesktopRepeatsIsHeldDown) {
   Press({Qt::Key_Home});
   const auto send = [this](QEvent::Type type, quint64 moment, Qt::Key key = Qt::Key_Return) {
@@ -340,7 +341,7 @@ struct KeyCase {
 };
 
 const KeyCase KeyCases[] = {
-    // Commands, and keys that mean nothing to the mark: a mouse player presses them, too.
+    // Commands, and keys that do not use the mark: a mouse player presses them too.
     {Qt::Key_F2},
     {Qt::Key_F1},
     {Qt::Key_Escape},
@@ -356,7 +357,7 @@ const KeyCase KeyCases[] = {
     {Qt::Key_Right, Qt::MetaModifier},
     {Qt::Key_Return, Qt::ControlModifier},
     {Qt::Key_Space, Qt::ControlModifier},
-    // What moves the mark or uses it.
+    // Keys that move or use the mark.
     {Qt::Key_Left, {}, {true, true, false}},
     {Qt::Key_Right, Qt::ShiftModifier, {true, true, false}},
     {Qt::Key_Up, {}, {true, true, false}},
@@ -415,7 +416,8 @@ TEST_F(UseOfKeysTest, OnlyKeysThatMoveTheMarkOrUseItCount) {
   }
 }
 
-// Whoever uses keys in the dialog plays by keys at the table, too, and so with the mouse.
+// Someone who uses keys in the dialog also plays with keys at the table; the mouse works the same
+// way.
 TEST_F(UseOfKeysTest, InTheDialogCountAtTheTableAndTheMouseThereDoes) {
   const auto ask = [this](const std::function<void()>& act) {
     game.platform.person = [&] {
@@ -439,7 +441,7 @@ TEST_F(UseOfKeysTest, InTheDialogCountAtTheTableAndTheMouseThereDoes) {
   }
 }
 
-// The commonest start of all: everything but F2 is done by the mouse.
+// The most common way to start: everything but F2 is done with the mouse.
 TEST(Keys, F2AndTheMouseLeaveTheTableUnmarked) {
   const auto pictureOfBids = [](bool isStartedByKey) {
     WindowGame game;

@@ -1,4 +1,4 @@
-// Where everything stands, what it says and how large its letters are.
+// Where everything is, what it says and how large its letters are.
 #include <gtest/gtest.h>
 
 #include <QLabel>
@@ -131,7 +131,7 @@ TEST(Layout, OpensWithTheWelcomePanelAlone) {
     EXPECT_EQ(game.Find(name).isVisible(), isVisible) << name;
 }
 
-// The card is there, as the model says, but nothing of it looks out from under the panel.
+// The card is there, as the model says, but no part of it shows around the panel.
 TEST(Layout, TheWelcomePanelHidesTheCardUnderIt) {
   WindowGame game;
   game.Load();
@@ -139,7 +139,7 @@ TEST(Layout, TheWelcomePanelHidesTheCardUnderIt) {
   const QImage seen = game.Find("Table").grab(card.geometry()).toImage();
   for (int y = 0; y < seen.height(); ++y) {
     for (int x = 0; x < seen.width(); ++x) {
-      // Between the navy of the ground and the light yellow of the letters lies nothing else.
+      // No colour but navy, light yellow and the shades between them.
       const QColor colour = seen.pixelColor(x, y);
       ASSERT_NEAR(colour.blue(), 64 + 0.5 * colour.red(), 4) << x << "," << y;
     }

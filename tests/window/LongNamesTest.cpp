@@ -1,4 +1,4 @@
-// Names that are longer than anybody's, and text that looks like markup.
+// Names longer than any real one, and text that looks like markup.
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
@@ -48,7 +48,7 @@ class ShortNames : public testing::Test {
   WindowGame game;
 };
 
-// A new name is greeted whatever the table is doing.
+// A new name is greeted whatever is happening at the table.
 TEST_F(ShortNames, AreShownWholeWithAllThatIsSaidOfThem) {
   ExpectWholeNames("before the first hand");
   Deal();

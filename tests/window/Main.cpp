@@ -2,7 +2,7 @@
 
 #include <QApplication>
 
-// Without a wish of the caller's the windows are drawn into memory and no display is needed.
+// Unless the caller chooses a platform, the windows are drawn into memory and no display is needed.
 int main(int count, char* arguments[]) {
   testing::InitGoogleTest(&count, arguments);
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -1,4 +1,4 @@
-// Whole hands, played through the widgets alone.
+// Whole hands, played only through the widgets.
 #include <gtest/gtest.h>
 
 #include <QAbstractItemModel>
@@ -14,7 +14,7 @@
 namespace Parlino {
 namespace {
 
-// Plays by what is to be seen, and leaves through "Save and Exit" when the hand is scored.
+// Plays by what can be seen, and leaves through "Save and Exit" when the hand has been scored.
 struct Person {
   CardClicker cards;
   bool hasStarted = false;
@@ -56,7 +56,7 @@ TEST(Play, AWholeHandCanBePlayedByMouse) {
   EXPECT_NE(game.platform.ReadFile("SaveGame.dat"), "0,0,#FALSE#\r\n");
 }
 
-// A hand that is abandoned at any of these places starts again, and the program can be left.
+// Wherever a hand is abandoned, a new one starts, and the program can be left.
 enum class Moment { WhileDealing, BeforeTheBid, BeforeTheCard };
 
 void PrintTo(Moment moment, std::ostream* out) {

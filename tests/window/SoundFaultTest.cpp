@@ -1,4 +1,4 @@
-// What is heard when files or the device are not as they should be.
+// What is heard when the files or the device are faulty.
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -35,8 +35,8 @@ TEST_F(SoundFaults, EverySoundCutsOffTheOneBefore) {
   }
 }
 
-// All numbers of the library's errors: most may mean the file or the device. For a device that
-// takes one sound the one before has made room.
+// All error numbers of the library; most of them may mean the file or the device. On a device for
+// one sound, the previous sound has already ended.
 TEST_F(SoundFaults, OneThatCannotBePlayedLeavesTheOthersAlone) {
   for (int error = -1; error >= -18; --error) {
     SCOPED_TRACE(error);
@@ -56,7 +56,7 @@ TEST_F(SoundFaults, OneThatCannotBePlayedLeavesTheOthersAlone) {
   }
 }
 
-// It would be waited for without end.
+// The library would wait for it for ever.
 TEST_F(SoundFaults, APipeIsNotOpened) {
   const TemporaryFolder folder;
   ASSERT_EQ(::mkfifo((folder.Path() / "Card.wav").c_str(), S_IRUSR | S_IWUSR), 0);

@@ -1,5 +1,5 @@
 // What assistive tools find: a name and a role for everything, actions that play, and an
-// announcement for every new text of the information line.
+// announcement for each new text of the information line.
 #include <gtest/gtest.h>
 #include <set>
 
@@ -56,7 +56,7 @@ void PressVoice(Voice voice) {
   voice->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
 }
 
-// The toolkit's own: what only holds others and speaks through them.
+// Qt's own objects that only contain others and have nothing to say themselves.
 bool IsHolder(Voice voice) {
   const auto role = voice->role();
   return (role == QAccessible::Client || role == QAccessible::ScrollBar ||
@@ -67,7 +67,7 @@ bool IsHolder(Voice voice) {
 void ExpectNamesAndRoles(const QString& window) {
   SCOPED_TRACE(window.toStdString());
   EXPECT_FALSE(NameOf(VoiceOf(window)).isEmpty());
-  std::set<std::pair<int, QString>> names;  // a text and the label beside it share theirs
+  std::set<std::pair<int, QString>> names;  // a text and the label beside it may have the same name
   for (const Voice voice : VoicesIn(VoiceOf(window))) {
     if (IsHolder(voice)) continue;
     const QString name = NameOf(voice);
@@ -79,7 +79,7 @@ void ExpectNamesAndRoles(const QString& window) {
   }
 }
 
-// Plays by what is spoken alone; the names and roles are looked at on the way.
+// Plays only by what is spoken, and checks the names and roles on the way.
 class Listener {
  public:
   int played = 0;

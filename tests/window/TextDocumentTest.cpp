@@ -51,7 +51,7 @@ TEST(TextDocument, ParagraphsKeepTheirTextAndTheirLook) {
   EXPECT_EQ(target.blockCount(), 3) << "a line break is no new paragraph";
   const QTextBlock first = target.firstBlock();
   const QTextCharFormat format = first.begin().fragment().charFormat();
-  EXPECT_EQ(format.font().pixelSize(), 48);  // 18 points, twice as large
+  EXPECT_EQ(format.font().pixelSize(), 48);  // 18 points at twice the size
   EXPECT_TRUE(format.font().bold());
   EXPECT_EQ(format.foreground().color(), QColor(0xC0, 0, 0));
   EXPECT_EQ(first.blockFormat().headingLevel(), 2);
@@ -66,12 +66,12 @@ TEST(TextDocument, MarkersHangBesideTheText) {
     std::vector<int> tabs;
     double margin;
     double indent;
-    std::vector<double> stops;  // from where the line begins
+    std::vector<double> stops;  // measured from the start of the line
   } examples[] = {
       {720, -360, {}, 48, -24, {24}},
       {720, -360, {360, 720, 1440}, 48, -24, {24, 72}},
-      {0, 0, {}, 20, -20, {20}},       // a document that leaves no room for them
-      {300, -900, {}, 20, -20, {20}},  // or wants them outside the page
+      {0, 0, {}, 20, -20, {20}},       // a document that leaves no room for the marker
+      {300, -900, {}, 20, -20, {20}},  // or one that wants it outside the page
   };
   for (const auto& example : examples) {
     Paragraph point = TextOf("text");
@@ -91,7 +91,7 @@ TEST(TextDocument, MarkersHangBesideTheText) {
   }
 }
 
-// The rows of a table need not have the same cells, nor edges that are quite the same.
+// The rows of a table may have different cells, and edges that are not exactly the same.
 TEST(TextDocument, CellsSpanTheColumnsOfOtherRows) {
   Table table;
   table.HasBorders = true;
@@ -113,7 +113,8 @@ TEST(TextDocument, CellsSpanTheColumnsOfOtherRows) {
   EXPECT_EQ(LinesOf(target).last(), "after");
 }
 
-// Word processors stretch a table to ten times the page, and broken files have cells of no width.
+// Word processors may stretch a table to ten times the page, and broken files have cells of no
+// width.
 TEST(TextDocument, NoCellOfATableIsLost) {
   constexpr int edges[][3] = {{21845, 39340, 65534},
                               {100, 100, 100},
@@ -135,7 +136,7 @@ TEST(TextDocument, NoCellOfATableIsLost) {
     EXPECT_TRUE(LinesOf(target).contains(text)) << text.toStdString();
 }
 
-// The numbers are the outermost that a document may hold.
+// The numbers are the largest and smallest that a document may hold.
 TEST(TextDocument, NothingInADocumentBreaksTheStructureOrCostsWithoutEnd) {
   using RichText::FurthestTwips;
   Paragraph odd = TextOf("a\uFDD0b\uFFFCc");
@@ -148,7 +149,7 @@ TEST(TextDocument, NothingInADocumentBreaksTheStructureOrCostsWithoutEnd) {
   Table ragged;
   ragged.Rows.push_back({-FurthestTwips, {CellOf(-FurthestTwips, "x"), CellOf(0, "y")}});
   ragged.Rows.push_back({FurthestTwips, {CellOf(RichText::FurthestEdge, "z")}});
-  Table huge;  // every row with an edge of its own: a grid would have a million places
+  Table huge;  // each row has its own edge, so a grid would have a million cells
   for (int row = 0; row < 1000; ++row) huge.Rows.push_back({0, {CellOf(100 * row, "cell")}});
   QTextDocument target;
   WriteDocument({.Blocks = {odd, outside, ragged, ragged, huge}}, 1, target);

@@ -15,20 +15,20 @@ namespace Parlino {
 namespace {
 
 constexpr int PlayersRowTop = 440;
-constexpr QPoint SpotOfCard(8, 48);  // seen also where the next card lies over this one
+constexpr QPoint SpotOfCard(8, 48);  // visible even if the next card covers the rest
 
 }  // namespace
 
-void QuickPlatform::WaitForToolkit(std::uint32_t atMostMs) {
+void QuickPlatform::WaitForQt(std::uint32_t atMostMs) {
   person();
   if (atMostMs != Forever) ticks += atMostMs;
-  QtPlatform::WaitForToolkit(0);
+  QtPlatform::WaitForQt(0);
 }
 
 WindowGame::WindowGame(std::uint64_t seed) : platform(folder.path().toStdString()) {
   SetUpGame(platform);
-  QCursor::setPos(0, 0);           // where the test before has left it, it might rest on a card
-  platform.Motion().Allow(false);  // a test that wants to see the way of the cards allows it
+  QCursor::setPos(0, 0);           // otherwise it might rest on a card, where the last test left it
+  platform.Motion().Allow(false);  // a test about moving cards turns it on
   DealGenerator.Seed(seed);
   WriteFirstRecords();
 }

@@ -1,5 +1,5 @@
-// A game in a real window for the tests and the long runs. Time is virtual: a pause is over as soon
-// as the toolkit has done what it had to do.
+// A game in a real window, for the tests and the long runs. Time is virtual: a pause is over as
+// soon as Qt has done its work.
 #pragma once
 
 #include <functional>
@@ -20,14 +20,15 @@ class QuickPlatform : public QtPlatform {
  public:
   using QtPlatform::QtPlatform;
 
-  // The person at the window: asked before every wait, with the table shown as it stands.
+  // The person at the window: called before every wait, when the table is shown as it is in the
+  // model.
   std::function<void()> person = [] {};
   std::uint32_t ticks = 0;
 
   std::uint32_t Ticks() override { return ticks; }
 
  protected:
-  void WaitForToolkit(std::uint32_t atMostMs) override;
+  void WaitForQt(std::uint32_t atMostMs) override;
 };
 
 class WindowGame {
@@ -38,11 +39,11 @@ class WindowGame {
   void Load();
   // Shows what has changed and raises what has been clicked.
   void Turn() { platform.ProcessEvents(0); }
-  // Plays with this person until the program ends, and returns its exit status; -1 when the person
+  // Plays with this person until the program ends, and returns its exit status, or -1 if the person
   // has seen enough.
   int Run(std::function<void()> person);
 
-  // The widget of a control by its name; a test without it fails at once.
+  // The widget with the name of the control; throws if there is none.
   static QWidget& Find(const QString& name);
   static QWidget& FindMember(const char* array, int index);
 
@@ -56,7 +57,7 @@ void PressKey(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 // The plain box or text-input box that is open, or none.
 QDialog* OpenBox();
 
-// Clicks on the cards of the Player's hand, one after the other, as a person who has to find out
+// Clicks on the cards of the Player's hand one after the other, like a person who has to find out
 // which of them may be played.
 class CardClicker {
  public:

@@ -34,7 +34,7 @@ class Sheet {
     image_.fill(Colours::Green);
   }
 
-  // Puts the picture there and says where the next one of its row stands.
+  // Draws the picture there and returns where the next one in its row goes.
   int Put(int left, int top, const QPixmap& picture) {
     QPainter(&image_).drawPixmap(left, top, picture);
     return left + qRound(picture.deviceIndependentSize().width()) + Gap;
@@ -74,7 +74,7 @@ void PutOthers(Sheet& sheet) {
   }
 }
 
-// What the player sees most of the time is a strip of each card, on the ground of the hand's box.
+// Most of the time the player sees a strip of each card, on the background of the hand's box.
 void PutOverlappingCards(Sheet& sheet) {
   sheet.Fill({0, TopOfTable, WidthOfHand, CardHeight + 2 * Gap}, Colours::Navy);
   constexpr std::array<Integer, 13> hand{4, 10, 13, 22, 24, 26, 34, 37, 38, 41, 45, 50, 52};
@@ -93,7 +93,7 @@ void PutOverlappingCards(Sheet& sheet) {
   }
 }
 
-// An icon of 48 pixels on a screen of ratio 2 has 96.
+// An icon of 48 pixels has 96 on a screen with a device pixel ratio of 2.
 void PutIcons(Sheet& sheet) {
   int left = Gap;
   for (const int size : IconSizes) {

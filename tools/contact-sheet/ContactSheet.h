@@ -6,7 +6,7 @@
 
 namespace Parlino {
 
-// The sheet in pixels; at scale 2 it shows what a screen of device pixel ratio 2 shows. Needs a
+// Draws the sheet; at scale 2 it shows what a screen with a device pixel ratio of 2 shows. Needs a
 // QGuiApplication.
 QImage DrawContactSheet(qreal scale);
 

@@ -1,4 +1,4 @@
-// parlino-contact-sheet: saves all pictures of the game on one sheet, to be looked at.
+// parlino-contact-sheet: saves all pictures of the game on one sheet for inspection.
 //
 //   parlino-contact-sheet SCALE FILE.png
 

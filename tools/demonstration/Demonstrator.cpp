@@ -20,10 +20,10 @@ namespace {
 constexpr int ThinkingMs = 600;  // a person looks before every click
 constexpr int TrickOfPicture = 7;
 
-// A display that lets no click through must not keep the demonstration for ever.
+// If the display lets no click through, the demonstration must still come to an end.
 constexpr int LongestMs = 240'000;
 
-// Where a card can be clicked though its neighbours in the hand lie over it.
+// A spot where a card can be clicked although its neighbours in the hand overlap it.
 constexpr QPoint SpotOnCard(10, 48);
 
 QWidget* FindWidget(const QString& name) {
@@ -51,7 +51,7 @@ void Click(QWidget* widget, QPoint spot) {
 
 void PressKey(QWidget* widget, Qt::Key key) {
   if (widget == nullptr) return;
-  widget->activateWindow();  // keys go to the window in front, which no manager may have chosen yet
+  widget->activateWindow();  // keys go to the active window; there may be none yet
   for (const auto type : {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease})
     QCoreApplication::postEvent(widget, new QKeyEvent(type, key, Qt::NoModifier));
 }
@@ -93,7 +93,7 @@ void Demonstrator::LeaveWithScore() {
   if (saveAndExit != nullptr) Click(saveAndExit, saveAndExit->rect().center());
 }
 
-// The first moment of each kind is pictured, as the screen shows it.
+// The first moment of each kind is saved as the screen shows it.
 void Demonstrator::TakePicture(const char* name) {
   if (HasPicture(name)) return;
   taken_.insert(name);

@@ -1,5 +1,5 @@
 // An automatic South at the real window: looks at the table, moves and clicks the mouse like a
-// person, and takes pictures on the way.
+// person, and saves pictures along the way.
 #pragma once
 
 #include <filesystem>
@@ -16,11 +16,11 @@ namespace Parlino {
 
 class Demonstrator : public QObject {
  public:
-  // Pictures go into `folder`; without one none are taken.
+  // Pictures go into `folder`; if it is empty, none are saved.
   explicit Demonstrator(std::filesystem::path folder);
 
   [[nodiscard]] const std::vector<std::string>& Pictures() const { return pictures_; }
-  // The lines of the list of cards played, as they stood when the hand was scored.
+  // The lines of the list of cards played, as they were when the hand was scored.
   [[nodiscard]] const std::vector<std::string>& CardsPlayed() const { return cardsPlayed_; }
 
  protected:

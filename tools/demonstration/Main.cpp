@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A hand that is worth looking at.
+// A seed whose hand is worth looking at.
 constexpr std::uint64_t Seed = 5;
 
 int Report(const Parlino::Demonstrator& demonstrator, const fs::path& folder) {
@@ -45,7 +45,7 @@ int main(int count, char* arguments[]) {
   fs::create_directories(folder);
   Parlino::QtPlatform platform(folder);
   Parlino::SetUpGame(platform);
-  Parlino::WriteFirstRecords();  // a player's score is not the demonstration's business
+  Parlino::WriteFirstRecords();  // the demonstration must not use a player's own score
   Parlino::DealGenerator.Seed(Seed);
   const Parlino::Demonstrator demonstrator(folder);
   const int status = Parlino::RunGame();

@@ -1,4 +1,4 @@
-// parlino-icon-maker: draws the icon of the program in one of the sizes that desktops look for.
+// parlino-icon-maker: draws the program's icon in one of the sizes that desktops look for.
 //
 //   parlino-icon-maker ICON.svg SIZE FILE.png
 

@@ -25,7 +25,7 @@ std::string DropComments(std::string text) {
   return text;
 }
 
-// One element to a line keeps the pictures small and their history readable.
+// With one element to a line the pictures stay small and their history readable.
 std::string DropIndentation(const std::string& text) {
   std::istringstream lines(text);
   std::string result;

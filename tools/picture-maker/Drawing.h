@@ -6,21 +6,19 @@
 
 namespace Parlino {
 
-// A drawing is SVG text without the outer <svg> element, ready to be placed
-// into another picture.
+// A drawing is SVG text without the outer <svg> element, ready to be placed into another picture.
 using Drawing = std::string;
 
-// Reads one hand-written source: comments, indentation and the outer element
-// are left behind.
+// Reads one hand-written source without its comments, indentation and outer element.
 Drawing ReadDrawing(const std::filesystem::path& file);
 
 // Replaces every occurrence of one colour by another.
 Drawing Repaint(Drawing drawing, std::string_view from, std::string_view to);
 
-// The same drawing somewhere else; the transform is given in SVG's own words.
+// The same drawing in another place; the transform is written as in SVG.
 Drawing Place(const Drawing& drawing, const std::string& transform);
 
-// Turns the drawings into a complete picture of the given size.
+// Makes a complete picture of the given size out of the drawing and writes it to the file.
 void WritePicture(const std::filesystem::path& file, int width, int height, const Drawing& drawing);
 
 }  // namespace Parlino

@@ -43,15 +43,15 @@ Drawing ComposeCard() {
          " fill=\"#fffdf6\" stroke=\"#4a4a50\"/>\n";
 }
 
-// Everything that tells the card must lie within the 22 pixels that stay
-// visible when the next card of a hand covers the rest.
+// Everything that identifies the card must lie within the 22 pixels that stay visible when the next
+// card of a hand covers the rest.
 Drawing ComposeIndex(const std::filesystem::path& sources, const Suit& suit, int value) {
   const Drawing rank = ReadDrawing(sources / "ranks" / (RankName(value) + ".svg"));
   return "<g transform=\"translate(9.5 5)\" stroke=\"" + std::string(suit.colour) +
          "\" stroke-width=\"2.7\">\n" + rank + "</g>\n" + Use("suit", MoveTo({9.5, 29}, 1.15));
 }
 
-// Nine and ten pips stand closer together, so they are a little smaller.
+// Nine or ten pips stand closer together, so they are a little smaller.
 Drawing ComposePips(int value) {
   const double scale = value < 9 ? 1.4 : 1.16;
   Drawing pips;
@@ -63,8 +63,8 @@ Drawing ComposeAce(const std::filesystem::path& sources, const Suit& suit) {
   return ReadDrawing(sources / "aces" / (std::string(suit.name) + ".svg"));
 }
 
-// The frame has two steps that make room for the indices, so a figure may be
-// as broad as the card allows.
+// The frame has two steps that make room for the indices, so a figure may be as wide as the card
+// allows.
 Drawing ComposeCourt(const std::filesystem::path& sources, const Suit& suit, int value) {
   const std::string outline = "<path d=\"M22.5 4.5H66.5V59.5H48.5V91.5H4.5V36.5H22.5Z\" ";
   const auto courts = sources / "courts";

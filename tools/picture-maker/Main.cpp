@@ -57,7 +57,7 @@ void MakePointers(const fs::path& sources, const fs::path& output) {
                  ReadDrawing(sources / "pointers" / (std::string(name) + ".svg")));
 }
 
-// Black suits would drown in the dark surface they are shown on, hence a tile.
+// Black suits would not stand out on the dark surface that they are shown on, so they get a tile.
 void MakeTrumpTiles(const fs::path& sources, const fs::path& output) {
   int number = 60;
   for (const char* name : {"hearts", "clubs", "diamonds", "spades"}) {

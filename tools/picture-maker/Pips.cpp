@@ -5,7 +5,7 @@ namespace {
 
 constexpr double MiddleX = 35.5, MiddleY = 48;
 
-// The columns of a nine and a ten give way to their middle pips.
+// On a nine and a ten the columns stand further apart, to make room for the pips in the middle.
 double ToTheSide(int value) {
   return value < 9 ? 10 : 11;
 }

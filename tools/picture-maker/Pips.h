@@ -8,10 +8,10 @@ struct Spot {
   double x, y;
 };
 
-// Where the pips of a two up to a ten stand, in the classical arrangement.
+// Where the pips of a card from two to ten are, in the classic arrangement.
 std::vector<Spot> PlacePips(int value);
 
-// The pips of the lower half stand on their heads.
+// The pips of the lower half are upside down.
 bool IsTurned(Spot spot);
 
 }  // namespace Parlino

@@ -7,8 +7,8 @@
 namespace Parlino {
 namespace {
 
-// The two reds and the two blacks differ a little in tone as well: one leans to orange,
-// one to green, so a glance at a colour is already half the answer.
+// The two reds and the two blacks also differ a little in hue: one red leans towards orange and one
+// black towards green, so the suit can be told at a glance.
 constexpr std::array Suits{
     Suit{"diamonds", "#df340a", "#fff3d2"},
     Suit{"clubs", "#0b5a34", "#e6f3dc"},

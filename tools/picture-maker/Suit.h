@@ -8,10 +8,10 @@ struct Suit {
   const char* tint;  // behind the court figures
 };
 
-// Cards 1 to 52 come suit by suit.
+// Cards 1 to 52 are in order of suit.
 const Suit& SuitOfCard(int card);
 
-// Colours of the suit with this English plural name.
+// The suit with this English plural name.
 const Suit& SuitNamed(const char* name);
 
 }  // namespace Parlino

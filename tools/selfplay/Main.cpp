@@ -1,4 +1,4 @@
-// parlino-selfplay: plays hands at the headless table and says how they went.
+// parlino-selfplay: plays hands at the headless table and prints how they went.
 //
 //   parlino-selfplay --hands N --seed S [--south random|robot] [--transcript FILE]
 
@@ -33,7 +33,7 @@ struct TeamFigures {
   }
 };
 
-// The person at the table: plays South, answers the dialogs, and leaves after the last hand.
+// The person at the table: plays South, answers the dialogs and leaves after the last hand.
 class Session {
  public:
   Session(const SelfPlayOptions& options, std::ostream* transcript)

@@ -16,7 +16,7 @@ struct SelfPlayOptions {
   std::string transcript;  // a file name; empty for none
 };
 
-// Nothing when the command line cannot be understood.
+// Returns nothing if the command line cannot be understood.
 std::optional<SelfPlayOptions> ParseOptions(int count, const char* const* arguments);
 
 }  // namespace Parlino

@@ -25,7 +25,7 @@ CardSet HandOnTable() {
   return hand;
 }
 
-// Those of the suit led, or all of them when there is none or nothing has been led.
+// The cards of the suit led, or the whole hand if it has none of them or nothing has been led.
 CardSet Playable(CardSet hand) {
   const int suit = SuitLedByList();
   if (suit == 0) return hand;

@@ -1,4 +1,4 @@
-// A South that sits at the table without a window: it sees the controls and raises their events.
+// A South at the table without a window: it sees the controls and fires their events.
 #pragma once
 
 #include <cstdint>
@@ -13,8 +13,8 @@ class South {
  public:
   South(SouthKind kind, std::uint64_t seed);
 
-  // Bids, when the bidding panel is shown, or plays a card, when the information line asks for one.
-  // Returns false when the table asks for neither.
+  // Bids if the bidding panel is shown, or plays a card if the information line asks for one.
+  // Returns false if the table asks for neither.
   bool Act();
 
  private:
@@ -25,7 +25,7 @@ class South {
   Generator generator_;
 };
 
-// The suit that the list of cards played says was led to the trick on the table, 4..7; 0 when the
+// The suit led to the trick on the table according to the list of cards played, 4..7; 0 if the
 // trick has no card yet.
 int SuitLedByList();
 

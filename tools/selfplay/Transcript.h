@@ -1,4 +1,4 @@
-// Watches the table while hands are played and writes each of them as one line of JSON.
+// Watches the table while hands are played and writes each hand as one line of JSON.
 #pragma once
 
 #include <cstdint>
@@ -16,11 +16,11 @@ class Transcript {
 
   void WriteHeader(std::uint64_t seed, int hands, std::string_view south);
 
-  // Notes what has happened since the last look; called at every chance to process events, which
-  // comes at least once for every card dealt and every trick.
+  // Notes what has happened since the last call. To be called each time the game processes events,
+  // which is at least once for every card dealt and every trick.
   void Look();
 
-  // Writes the hand just scored, number `hand`, and begins the next.
+  // Writes the hand that has just been scored, as number `hand`, and starts the next.
   void WriteHand(int hand, bool gameOver);
 
  private:

@@ -13,7 +13,7 @@ double TimeOf(std::size_t sample) {
   return static_cast<double>(sample) / SampleRate;
 }
 
-// Dies away exponentially, yet really reaches silence when the time is over.
+// Decays exponentially, but reaches true silence at the end.
 double Decay(double time, double seconds, double decay) {
   return std::exp(-time / decay) * (1 - time / seconds);
 }
@@ -29,7 +29,7 @@ Sound MakePuff(Noise& noise, double seconds, double swell, double decay) {
   return puff;
 }
 
-// A dull knock whose pitch sinks a little, as wood under a cloth gives it.
+// A dull knock whose pitch drops a little, like wood under cloth.
 Sound MakeThump(double seconds, double pitch, double decay) {
   Sound thump = MakeSilence(seconds);
   double phase = 0;
@@ -55,7 +55,7 @@ Sound MakeShuffle() {
   Noise noise(20011);
   Sound sound = MakeSilence(1.05);
 
-  // The thumbs start slowly, run, and slow down with the last few cards.
+  // The thumbs start slowly, speed up, and slow down again for the last few cards.
   for (int i = 0; i < flicks; ++i) {
     const double part = (i + 0.5 * noise.NextFraction()) / flicks;
     const double start = 0.02 + riffle * (part + 0.1 * std::sin(2 * std::numbers::pi * part));
@@ -65,7 +65,7 @@ Sound MakeShuffle() {
   }
   Mix(sound, FilterBand(MakePuff(noise, 0.75, 0.4, 0.12), 1500, 1800), 0.0, 0.10);
 
-  // Then both halves slide into each other and knock on the table.
+  // Then the two halves slide together and are knocked on the table.
   Mix(sound, FilterBand(MakePuff(noise, 0.24, 0.1, 0.035), 2600, 2600), 0.70, 0.55);
   Mix(sound, FilterBand(MakePuff(noise, 0.1, 0.001, 0.012), 1400, 1500), 0.87, 1.0);
   Mix(sound, MakeThump(0.12, 190, 0.02), 0.87, 0.25);
@@ -87,8 +87,8 @@ Sound MakeBell() {
   struct Partial {
     double ratio, level, decay;
   };
-  // The high partials are faint and leave early, which keeps the bell soft;
-  // the weak neighbour of the keynote beats slowly and keeps it alive.
+  // The high partials are faint and fade early, which keeps the bell soft; a weak partial close to
+  // the fundamental makes it beat slowly, which keeps the sound alive.
   constexpr std::array partials{
       Partial{1.0, 0.8, 0.42},    Partial{1.0021, 0.16, 0.5}, Partial{2.0, 0.26, 0.26},
       Partial{2.995, 0.10, 0.16}, Partial{4.18, 0.06, 0.09},  Partial{5.43, 0.03, 0.05},

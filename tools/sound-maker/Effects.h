@@ -4,13 +4,13 @@
 
 namespace Parlino {
 
-// A pack of cards is riffled together and pushed straight.
+// A pack of cards being riffled together and knocked straight.
 Sound MakeShuffle();
 
-// A card is put on a cloth.
+// A card being put on a cloth.
 Sound MakeCard();
 
-// A small bell rings out.
+// A small bell ringing out.
 Sound MakeBell();
 
 }  // namespace Parlino

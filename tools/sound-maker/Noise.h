@@ -9,7 +9,7 @@ class Noise {
  public:
   explicit Noise(std::uint32_t seed) : state_(seed) {}
 
-  // Evenly spread from 0 to 1.
+  // Evenly distributed from 0 to 1.
   double NextFraction() {
     state_ ^= state_ << 13;
     state_ ^= state_ >> 17;
@@ -17,7 +17,7 @@ class Noise {
     return state_ / 4294967296.0;
   }
 
-  // Evenly spread from -1 to 1.
+  // Evenly distributed from -1 to 1.
   double NextSample() { return 2 * NextFraction() - 1; }
 
  private:

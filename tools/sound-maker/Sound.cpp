@@ -15,7 +15,7 @@ std::size_t CountSamples(double seconds) {
   return static_cast<std::size_t>(std::lround(seconds * SampleRate));
 }
 
-// Half a cosine wave from 0 to 1.
+// Half a cosine wave, rising from 0 to 1.
 double EaseIn(double part) {
   return 0.5 - 0.5 * std::cos(std::numbers::pi * std::min(part, 1.0));
 }
@@ -36,7 +36,7 @@ void Mix(Sound& target, const Sound& added, double start, double loudness) {
     target[first + i] += loudness * added[i];
 }
 
-// The usual second-order band pass with unit gain at its centre.
+// The usual second-order band-pass filter with unit gain at its centre.
 Sound FilterBand(const Sound& sound, double frequency, double width) {
   const double angle = 2 * std::numbers::pi * frequency / SampleRate;
   const double alpha = std::sin(angle) * width / (2 * frequency);

@@ -1,5 +1,5 @@
-// Whether the desktop wants things to move. Desktops say so through their settings portal on the
-// session bus; without a bus or a portal nobody has asked for less.
+// Whether the desktop wants less motion. Desktops say so through their settings portal on the
+// session bus; without a bus or a portal, motion stays on.
 #pragma once
 
 #include <functional>

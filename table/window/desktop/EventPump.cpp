@@ -25,7 +25,7 @@ void EventPump::Wait(std::uint32_t atMostMs) {
   waker_.stop();
 }
 
-// There is no loop of the toolkit's own that its request to quit could end.
+// No event loop of Qt's is running that its quit request could end, so the request is noted here.
 bool EventPump::eventFilter(QObject*, QEvent* event) {
   if (event->type() != QEvent::Quit) return false;
   endIsWanted_ = true;

@@ -1,4 +1,4 @@
-// Lets the toolkit do its work, asleep whenever there is none.
+// Lets Qt do its work, and sleeps whenever there is none.
 #pragma once
 
 #include <cstdint>
@@ -12,11 +12,11 @@ class EventPump : public QObject {
  public:
   EventPump();
 
-  // Sleeps until the toolkit has something to do or the time is up, and does it. `Forever` sets no
-  // timer at all.
+  // Sleeps until Qt has something to do or the time is up, and then lets Qt do it. `Forever` sets
+  // no timer at all.
   void Wait(std::uint32_t atMostMs);
 
-  // Whether the session asks the program to end.
+  // Whether the desktop's session has asked the program to end.
   [[nodiscard]] bool EndIsWanted() const { return endIsWanted_; }
 
  protected:

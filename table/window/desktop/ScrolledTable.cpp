@@ -10,10 +10,11 @@ ScrolledTable::ScrolledTable(QWidget* table, QWidget* parent) : QScrollArea(pare
   setFrameShape(NoFrame);
   setFocusPolicy(Qt::NoFocus);
   setWidget(table);
-  // The window's ground is seen through.
+  // Lets the window's background show through.
   table->setAutoFillBackground(false);
   viewport()->setAutoFillBackground(false);
-  // A bar's menu would run a loop of the toolkit's own, and the game would stand still meanwhile.
+  // The context menu of a scroll bar runs an event loop of Qt's own, and the game would stand
+  // still.
   horizontalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);
   verticalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);
   // The player's hand and the information line lie at the lower edge.
@@ -31,16 +32,16 @@ QSize ScrolledTable::WindowSize(QSize around, QSize room) const {
   return size.boundedTo(room);
 }
 
-// A control that is clicked is seen, and stays under the mouse.
+// A control that is clicked is already visible, and must stay under the mouse.
 void ScrolledTable::ShowFocus(QWidget* focus) {
   const bool isOnTable = focus != nullptr && focus != widget() && widget()->isAncestorOf(focus);
-  // With what is said around it, such as the information line below the hand.
+  // Includes what belongs to it, such as the information line below the hand.
   constexpr int aside = 60, above = 110;
   if (isOnTable && QGuiApplication::mouseButtons() == Qt::NoButton)
     ensureWidgetVisible(focus, aside, above);
 }
 
-// The arrows belong to the game. The page keys scroll, sideways with Shift.
+// The arrow keys belong to the game. The page keys scroll, and with Shift they scroll sideways.
 void ScrolledTable::keyPressEvent(QKeyEvent* event) {
   const bool isSideways = event->modifiers().testFlag(Qt::ShiftModifier);
   QScrollBar& bar = isSideways ? *horizontalScrollBar() : *verticalScrollBar();

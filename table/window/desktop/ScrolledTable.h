@@ -1,5 +1,5 @@
-// The room for the table: where the window is too small for it, scroll bars lead to the rest. In
-// more room the table lies at the top left.
+// The scrolling area that holds the table: if the window is too small for it, scroll bars lead to
+// the rest. In a larger window the table lies at the top left.
 #pragma once
 
 #include <QScrollArea>
@@ -8,11 +8,12 @@ namespace Parlino {
 
 class ScrolledTable : public QScrollArea {
  public:
-  // Takes the table over.
+  // Takes ownership of the table.
   ScrolledTable(QWidget* table, QWidget* parent);
 
-  // The size of a window that shows all of the table, `around` being what else the window holds.
-  // With less room than that it is made to fit, but has room for the scroll bar it needs.
+  // The size of a window that shows all of the table; `around` is the space that the rest of the
+  // window needs. If there is less room than that, the size fits into it and leaves space for the
+  // scroll bar that is then needed.
   [[nodiscard]] QSize WindowSize(QSize around, QSize room) const;
 
  protected:

@@ -10,8 +10,8 @@ namespace {
 constexpr int NoLibrary = -1;
 constexpr int DeviceIsBusy = -12;
 
-// The few entries of the library that are needed. It is opened by name, so that the program also
-// runs, in silence, where it is not installed.
+// The few functions of the library that are needed. It is loaded by name, so that the program also
+// runs, without sound, where it is not installed.
 class SoundLibrary {
  public:
   using Create = int (*)(ca_context** context);
@@ -48,7 +48,7 @@ const SoundLibrary& TheLibrary() {
 
 void IgnoreMessage(const char*, int, const char*, int, const char*, ...) {}
 
-// The driver below complains on the terminal about a machine without a sound device.
+// Otherwise ALSA prints errors to the terminal on a machine without a sound device.
 void SilenceDriver() {
   using Handler = void (*)(const char*, int, const char*, int, const char*, ...);
   QLibrary driver("asound", 2);
@@ -88,22 +88,22 @@ int Sound::Play(const std::string& path) {
 }
 
 void Sound::Start(std::string_view fileName) {
-  // A device may have come since, and a file may have been mended.
+  // A device may have been connected since then, and a file may have been repaired.
   if (fileName == ShuffleSound) passedOver_.clear();
   if (passedOver_.contains(fileName)) return;
   const std::filesystem::path path = folder_ / fileName;
   std::error_code ignored;
-  // The library would wait for somebody to write into a pipe.
+  // The library would wait for somebody to write to a pipe.
   if (std::filesystem::is_regular_file(path, ignored)) {
     int result = Play(path);
     if (result == DeviceIsBusy) {
-      // The device may take one sound only; once the library is closed the last one has left it.
+      // The device may take only one sound. Closing the library waits until it is free again.
       Close();
       result = Play(path);
     }
     if (result == 0) return;
   }
-  // Asking for a device before every card costs time.
+  // Asking for a device before every card takes time.
   passedOver_.emplace(fileName);
 }
 

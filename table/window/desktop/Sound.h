@@ -1,4 +1,4 @@
-// Sounds of the program's folder, played by the desktop's sound library where there is one.
+// Plays sounds from the program's folder with the desktop's sound library, if there is one.
 #pragma once
 
 #include <cstdint>
@@ -19,15 +19,15 @@ class Sound {
   Sound& operator=(const Sound&) = delete;
   ~Sound();
 
-  // Starts the file and returns; the sound still playing is cut off. A file that cannot be played,
-  // for whatever reason, cuts nothing off and is passed over until the next deal, which begins with
-  // ShuffleSound. The library is looked for at the first call.
+  // Starts the file and returns; a sound that is still playing is cut off. A file that cannot be
+  // played, for whatever reason, cuts nothing off and is skipped until the next deal, which begins
+  // with ShuffleSound. The library is loaded at the first call.
   void Start(std::string_view fileName);
 
  private:
   bool Open();
   void Close();
-  // Cuts off the sound before only when it could begin. Returns the library's number of the error.
+  // Cuts off the previous sound only if this one has started. Returns the library's error number.
   int Play(const std::string& path);
 
   std::filesystem::path folder_;

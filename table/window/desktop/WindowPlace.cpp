@@ -8,18 +8,18 @@
 namespace Parlino {
 namespace {
 
-// What the desktop has put round the last window that was shown; before the first, what is usual.
+// The frame that the desktop put around the last window shown; until then, a typical one.
 QMargins frameToExpect(1, 28, 1, 1);
 
-// On a screen that is too small the top of the window is what must be seen.
+// On a screen that is too small, it is the top of the window that must stay visible.
 void MoveToMiddle(QWidget& window, const QRect& room, const QMargins& frame) {
   const QSize spare = room.size() - window.size().grownBy(frame);
   window.move(room.left() + std::max(0, spare.width() / 2),
               room.top() + std::max(0, spare.height() / 2));
 }
 
-// Frames are as large as the desktop likes, and known when the window is on the screen. Its first
-// paint is the last moment at which it can move unseen.
+// The size of a frame is up to the desktop, and is known only once the window is shown. The first
+// paint is the last moment at which it can be moved unnoticed.
 class MiddleWithFrame : public QObject {
  public:
   MiddleWithFrame(QWidget& window, const QRect& room)

@@ -1,4 +1,4 @@
-// Where windows open.
+// Where windows open on the screen.
 #pragma once
 
 #include <QScreen>
@@ -7,14 +7,15 @@
 
 namespace Parlino {
 
-// The room for a window within its frame on this screen, whatever the frame.
+// The room for a window on this screen, allowing for any usual frame.
 QSize RoomForWindow(const QScreen& screen);
 
-// Gives the window, before it is shown, its size and the middle of the screen, the frame included
-// that the desktop will put round it. One that is too large for the screen is made to fit.
+// To be called before the window is shown: gives it this size and puts it in the middle of the
+// screen, allowing for the frame that the desktop will add. A window that is too large is made to
+// fit.
 void PutInMiddleOfScreen(QWidget& window, QSize size, const QScreen& screen);
 
-// Shows the window in front of the others, also one that is open already.
+// Shows the window in front of the others, even if it is already open.
 void ShowInFront(QWidget& window);
 
 }  // namespace Parlino

@@ -7,8 +7,8 @@ namespace Parlino {
 
 class PendingEvents;
 
-// Reports when it goes down and when it is clicked, by the mouse, by Space or by Enter. It draws no
-// ground: the face below it shows through.
+// Reports when it is pressed down and when it is clicked, by the mouse, Space or Enter. It paints
+// no background, so the face behind it shows through.
 class AnswerCaption : public KeyButton {
  public:
   AnswerCaption(int answer, PendingEvents& pending, QWidget* parent);

@@ -44,8 +44,8 @@ bool AnswerKeys::eventFilter(QObject* watched, QEvent* event) {
   return TakeKey(static_cast<QKeyEvent&>(*event), *watched);
 }
 
-// Returns false for a key that is left to the answer, which it presses. A key held down was meant
-// for the table, or for the question before.
+// Returns false for a key that is left to the answer, which it presses. A key that is still held
+// down was meant for the table or for the previous question.
 bool AnswerKeys::TakeKey(const QKeyEvent& key, const QObject& answer) {
   const bool isMeant = IsPlain(key) && !key.isAutoRepeat();
   if (!isMeant || !(MovesMark(key) || IsEnterOrSpace(key))) return true;
@@ -57,7 +57,7 @@ bool AnswerKeys::TakeKey(const QKeyEvent& key, const QObject& answer) {
   return MovesMark(key);
 }
 
-// Tab goes round; an arrow stays at the last answer in its direction.
+// Tab goes round; an arrow key stops at the last answer in its direction.
 void AnswerKeys::Move(const QKeyEvent& key, const QObject& from) {
   std::vector<QAbstractButton*> shown;
   std::ranges::copy_if(captions_, std::back_inserter(shown), &QWidget::isVisible);

@@ -1,4 +1,4 @@
-// The keys in the message dialog, and which of its answers they have reached.
+// The keys in the message dialog, and which of its answers the focus is on.
 #pragma once
 
 #include <vector>
@@ -12,20 +12,20 @@ namespace Parlino {
 
 class KeyUse;
 
-// The answer that the keys have reached has the focus. It is marked while `keyUse` is on: the first
-// key of who has used the mouse only shows the mark, for no answer can be taken back.
+// The answer that the keys have reached has the focus. It is marked while `keyUse` is on: after the
+// mouse was used, the first key only shows the mark, because no answer can be taken back.
 class AnswerKeys : public QObject {
  public:
   AnswerKeys(KeyUse& keyUse, QWidget& dialog);
 
-  // Answers are added in their order.
+  // Answers are added in the order in which Tab goes through them.
   void Add(QAbstractButton& caption);
 
-  // To be called when the dialog comes with another question: the keys begin at this answer, and a
-  // key or a button of the mouse that is still down means nothing any more.
+  // To be called when the dialog appears with another question: the focus starts at this answer,
+  // and a key or mouse button that is still held down is ignored.
   void Begin(int answer);
 
-  // The caption of the answer to be marked; nothing while none is.
+  // The caption of the answer to be marked, or nullptr if none is.
   [[nodiscard]] const QWidget* MarkedCaption() const;
 
  protected:

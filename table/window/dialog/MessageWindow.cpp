@@ -67,7 +67,7 @@ MessageWindow::MessageWindow(KeyUse& keyUse, PendingEvents& pending, QWidget* ow
       prompt_(Named(new Speaking<CaptionLabel>(TextLook(0), this), "Label2")),
       picture_(Named(new Speaking<QLabel>(this), "Picture1")) {
   setObjectName("MFormDeluxe");
-  // The dialog itself reads its title and its prompt.
+  // The dialog itself tells assistive tools its title and its prompt.
   speak = [this] { return Spoken{QAccessible::Dialog, windowTitle()}; };
   setWindowModality(Qt::ApplicationModal);
   setAttribute(Qt::WA_OpaquePaintEvent);
@@ -87,7 +87,7 @@ void MessageWindow::ShowModel(const MessageDialogView& dialog) {
   title_->ShowCaption(QString::fromStdString(dialog.Label3));
   prompt_->ShowCaption(QString::fromStdString(dialog.Label2));
   Place(dialog);
-  // Also where one question follows another at once, and the window stays.
+  // Also needed if one question directly follows another and the window stays open.
   if (std::exchange(showings_, dialog.Showings) != dialog.Showings)
     keys_.Begin(dialog.AnswerToMark);
   if (!isVisible()) show();
@@ -97,10 +97,10 @@ void MessageWindow::Place(const MessageDialogView& dialog) {
   const QRect screen = window()->screen()->geometry();
   const QRect place = ToPixels({dialog.Left, dialog.Top, dialog.Width, dialog.Height});
   setWindowTitle(title_->text().trimmed());
-  // Tools would be told each time, and their questions make the window look at the model again.
+  // Tools would be told each time, and their queries make the window look at the model again.
   if (accessibleDescription() != prompt_->text()) setAccessibleDescription(prompt_->text());
   setFixedSize(place.size());
-  // A prompt much taller than the one before would push the buttons off the screen.
+  // A prompt much taller than the previous one would push the buttons off the screen.
   const int lowest = std::max(0, screen.height() - place.height());
   move(screen.topLeft() + QPoint(place.left(), std::min(place.top(), lowest)));
   title_->setGeometry(ToPixels(dialog.Label3Place));
@@ -117,8 +117,8 @@ void MessageWindow::paintEvent(QPaintEvent*) {
   PaintMark(painter);
 }
 
-// A frame round the answer and a pointer above it, as round a card: both are seen where colours are
-// not.
+// A frame around the answer and a pointer above it, as for a card, so that the mark does not depend
+// on colour alone.
 void MessageWindow::PaintMark(QPainter& painter) const {
   const QWidget* caption = keys_.MarkedCaption();
   if (caption == nullptr) return;

@@ -1,5 +1,5 @@
-// The window of the message dialog. Everything in it is placed by the dialog's model; it can only
-// be left by its buttons.
+// The window of the message dialog. The dialog's model places everything in it, and only its
+// buttons close it.
 #pragma once
 
 #include <array>
@@ -16,7 +16,7 @@ namespace Parlino {
 
 class PendingEvents;
 
-// The caption of an answer, which takes the clicks and the keys, and the green face below it.
+// The caption of an answer, which takes the clicks and the keys, and the green face behind it.
 class AnswerFace : public QWidget {
  public:
   AnswerFace(int answer, PendingEvents& pending, QWidget* parent);
@@ -51,7 +51,7 @@ class MessageWindow : public QWidget, public Speaker {
   CaptionLabel* prompt_;
   QLabel* picture_;
   std::array<AnswerFace*, 3> faces_;
-  int showings_ = 0;  // as shown
+  int showings_ = 0;  // as last shown
 };
 
 // The font of everything in the dialog.

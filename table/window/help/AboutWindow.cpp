@@ -16,7 +16,7 @@
 
 namespace Parlino {
 
-// Centred text in a thin line, broken into lines of about the same length.
+// Centred text inside a thin border, broken into lines of about the same length.
 class BorderedLabel : public QLabel {
  public:
   BorderedLabel(const QRect& place, const QFont& font, QWidget* parent) : QLabel(parent) {
@@ -54,7 +54,7 @@ namespace {
 constexpr QSize DesignSize(382, 237);
 constexpr double TextPoints = 10.5;
 
-// The icon, lying a little deeper than the window around it.
+// The icon, set slightly into the window around it.
 class IconBox : public QWidget {
  public:
   IconBox(const QRect& place, QWidget* parent) : QWidget(parent) { setGeometry(place); }

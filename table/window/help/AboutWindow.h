@@ -1,4 +1,4 @@
-// The about window. It is made when it is loaded and gone when it is unloaded.
+// The about window. It is created when it is loaded and deleted when it is unloaded.
 #pragma once
 
 #include <QDialog>
@@ -18,7 +18,7 @@ class AboutWindow : public QDialog {
 
   void ShowModel(const AboutWindowView& about);
 
-  // Esc and the close box are the OK button.
+  // Esc and the close box act like the OK button.
   void reject() override;
 
  protected:
@@ -31,7 +31,7 @@ class AboutWindow : public QDialog {
   BorderedLabel* description_;
   BorderedLabel* disclaimer_;
   QPushButton* ok_;
-  int showings_ = 0;  // as shown
+  int showings_ = 0;  // as last shown
 };
 
 }  // namespace Parlino

@@ -13,7 +13,7 @@ namespace {
 using RichText::Paragraph;
 using RichText::Table;
 
-// A table stands between two paragraphs; one that has nothing to say takes no room.
+// A table needs a paragraph before and after it; an empty one should take up no room.
 void ShrinkEmptyBlock(QTextCursor& cursor) {
   QTextBlockFormat format;
   format.setLineHeight(1, QTextBlockFormat::FixedHeight);
@@ -48,7 +48,7 @@ class DocumentWriter {
   }
 
   void Write(const RichText::Document& source) {
-    cursor_.beginEditBlock();  // laid out once, at the end
+    cursor_.beginEditBlock();  // the layout is done once, at the end
     for (const RichText::Block& block : source.Blocks)
       std::visit([this](const auto& content) { Write(content); }, block);
     if (source.IsCut) Write(NoteOfCut());
@@ -57,7 +57,7 @@ class DocumentWriter {
   }
 
  private:
-  // What is too large for a grid is read one cell below the other.
+  // A table too large for a grid is written as text, one cell below the other.
   void WriteAsText(const Table& table) {
     for (const RichText::Row& row : table.Rows)
       for (const RichText::Cell& cell : row.Cells)
@@ -66,7 +66,7 @@ class DocumentWriter {
 
   double zoom_;
   QTextCursor cursor_;
-  bool isBlockFree_ = true;  // whether the cursor stands in a paragraph not yet written
+  bool isBlockFree_ = true;  // whether the cursor is in a paragraph that has not been written yet
 };
 
 }  // namespace

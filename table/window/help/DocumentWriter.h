@@ -1,4 +1,4 @@
-// Turns a document of formatted text into one of the toolkit's.
+// Turns a document of formatted text into a Qt document.
 #pragma once
 
 #include "richtext/RichText.h"
@@ -7,8 +7,8 @@ class QTextDocument;
 
 namespace Parlino {
 
-// Writes the whole of `source` into `target` in place of what was there. A point is counted as
-// 96/72 pixels, so that text has the same size on every screen.
+// Replaces the content of `target` with the whole of `source`. A point is counted as 96/72 pixels,
+// so that text has the same size on every screen.
 void WriteDocument(const RichText::Document& source, double zoom, QTextDocument& target);
 
 }  // namespace Parlino

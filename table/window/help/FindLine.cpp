@@ -87,7 +87,7 @@ void FindLine::Close() {
   text_.setFocus();
 }
 
-// What is being typed is looked for from where the search for its beginning has led to.
+// While the player is typing, each search starts again at the place found so far.
 void FindLine::FindWhileTyping() {
   QTextCursor cursor = text_.textCursor();
   cursor.setPosition(cursor.selectionStart());
@@ -104,13 +104,13 @@ void FindLine::Find(QTextDocument::FindFlags direction) {
   const QTextCursor before = text_.textCursor();
   text_.moveCursor(isBackward ? QTextCursor::End : QTextCursor::Start);
   if (text_.find(words, direction))
-    return ShowFound(isBackward ? "Top reached, went on at the end"
-                                : "End reached, went on at the top");
+    return ShowFound(isBackward ? "Reached top, continued from end"
+                                : "Reached end, continued from top");
   text_.setTextCursor(before);
   Say("Nothing found", false);
 }
 
-// What was found is seen with what stands above and below it.
+// Scrolls so that what was found is shown with the text above and below it.
 void FindLine::ShowFound(const char* note) {
   QScrollBar& bar = *text_.verticalScrollBar();
   const int height = text_.viewport()->height();

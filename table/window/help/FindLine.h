@@ -16,16 +16,16 @@ class FindLine : public QWidget {
  public:
   FindLine(QTextEdit& text, QWidget* parent);
 
-  // The line and what it has to say stand on either side of the window's button.
+  // The line and its message go on either side of the Close button.
   void Place(const QRect& line, const QRect& note);
 
-  // Opens the line, ready for other words; what is selected in the text is offered.
+  // Opens the line, ready for new words; text that is selected in the help is offered.
   void Open();
-  // Closes it and gives the focus back to the text.
+  // Closes it and returns the focus to the text.
   void Close();
 
-  // Selects the next place after the one selected, or the one before; goes on at the other end of
-  // the text.
+  // Selects the next match after the selected one, or the previous one; continues at the other end
+  // of the text.
   void FindNext() { Find({}); }
   void FindPrevious() { Find(QTextDocument::FindBackward); }
 

@@ -1,5 +1,5 @@
-// The help and the about window, each made when it is first wanted: the program's start does not
-// wait for them.
+// The help and about windows. Each is created when it is first asked for, so that they do not slow
+// down the program's start.
 #pragma once
 
 #include <memory>
@@ -14,9 +14,9 @@ class HelpAndAboutWindows {
  public:
   HelpAndAboutWindows(PendingEvents& pending, QWidget& table) : pending_(pending), table_(table) {}
 
-  // Shows what has changed in the models of both windows.
+  // Shows what has changed in the models of the two windows.
   void ShowModel();
-  // Closes one of them for good; any other window is passed over.
+  // Closes one of the two for good; any other window is ignored.
   void Close(WindowName window);
 
  private:

@@ -18,7 +18,7 @@ constexpr int PlainSize = 4;
 constexpr int WheelStep = 120;
 constexpr int Margin = 30;
 
-// Colours of its own, so that a dark desktop does not turn dark text on the paper into light.
+// Sets its own colours, so that a dark desktop does not make the text on the paper light.
 QPalette PaperColours(QPalette colours) {
   colours.setColor(QPalette::Base, Colours::Paper);
   colours.setColor(QPalette::Text, Colours::Ink);
@@ -50,15 +50,16 @@ QTextCursor::MoveOperation SelectingMove(const QKeyEvent& event) {
 
 }  // namespace
 
-// There is no caret: it would blink, and wake the program for it. The keys scroll, and select with
-// Shift.
+// There is no caret: it would blink, and wake the program each time. The keys scroll, and with
+// Shift they select.
 HelpText::HelpText(QWidget* parent) : QTextEdit(parent), level_(PlainSize) {
   setReadOnly(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse);
   setFocusPolicy(Qt::StrongFocus);
   setTabChangesFocus(true);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-  // A bar's menu would run a loop of the toolkit's own, and the game would stand still meanwhile.
+  // The context menu of a scroll bar runs an event loop of Qt's own, and the game would stand
+  // still.
   verticalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);
   horizontalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);
   setPalette(PaperColours(palette()));
@@ -80,7 +81,7 @@ void HelpText::ZoomBack() {
   Zoom(PlainSize);
 }
 
-// What stood at the top of the page stands there again, and what was selected still is.
+// Keeps the line at the top of the page and the selection.
 void HelpText::Zoom(int level) {
   level = qBound(0, level, static_cast<int>(std::ssize(Zooms)) - 1);
   if (level == level_) return;
@@ -115,7 +116,7 @@ bool HelpText::Select(const QKeyEvent& event) {
   const QTextCursor::MoveOperation move = SelectingMove(event);
   if (move == QTextCursor::NoMove) return false;
   QTextCursor cursor = textCursor();
-  // A selection begins where the reader is.
+  // A new selection begins on the visible page.
   if (!cursor.hasSelection() && !viewport()->rect().intersects(cursorRect(cursor)))
     cursor = cursorForPosition({Margin, 0});
   cursor.movePosition(move, QTextCursor::KeepAnchor);

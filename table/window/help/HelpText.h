@@ -1,4 +1,4 @@
-// The text box of the help window: shows a document to be read, selected and copied.
+// The text box of the help window: shows a document that can be read, selected and copied.
 #pragma once
 
 #include <QTextEdit>
@@ -11,11 +11,11 @@ class HelpText : public QTextEdit {
  public:
   explicit HelpText(QWidget* parent);
 
-  // Shows the text from its beginning. It is kept by reference, to be written again at another
-  // size.
+  // Shows the text from its beginning. Keeps a reference to it, in order to write it again at
+  // another size.
   void ShowText(const RichText::Document& text);
 
-  // One size larger, one smaller, or back to the size of the document.
+  // One size larger, one size smaller, or back to the document's own size.
   void ZoomIn() { Zoom(level_ + 1); }
   void ZoomOut() { Zoom(level_ - 1); }
   void ZoomBack();
@@ -32,7 +32,7 @@ class HelpText : public QTextEdit {
 
   const RichText::Document* text_ = nullptr;
   int level_;
-  int wheel_ = 0;  // turned, but not yet as far as one size
+  int wheel_ = 0;  // turned, but not yet far enough for one size
 };
 
 }  // namespace Parlino

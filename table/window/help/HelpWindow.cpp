@@ -72,11 +72,11 @@ void HelpWindow::ShowModel(const HelpWindowView& help) {
   if (showings_ == help.Showings) return;
   showings_ = help.Showings;
   text_->ShowText(help.rtbHelp);
-  find_->Close();  // gives the focus to the text, which the keys are to scroll
+  find_->Close();  // gives the focus to the text, so that the keys scroll
   ShowInFront(*this);
 }
 
-// Everything keeps its distance from the edge it is next to, the button the middle.
+// Everything keeps its distance from the nearest edge, and the button from the middle.
 void HelpWindow::resizeEvent(QResizeEvent*) {
   const QSize growth = size() - DesignSize;
   text_->setGeometry({QPoint(0, 0), TextSize + growth});

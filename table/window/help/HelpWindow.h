@@ -1,5 +1,5 @@
-// The help window: the text, the button below it and the line that finds words. It may be resized;
-// the text grows with it.
+// The help window: the text, the Close button below it and the line that finds words. It can be
+// resized, and the text area grows with it.
 #pragma once
 
 #include <QWidget>
@@ -17,8 +17,8 @@ class PendingEvents;
 
 class HelpWindow : public QWidget, public Speaker {
  public:
-  // `table` says on which screen the window opens; it does not own it, for the help may lie behind
-  // the table.
+  // `table` determines the screen on which the window opens. It does not own the window, because
+  // the table may cover the help.
   HelpWindow(PendingEvents& pending, const QWidget& table);
 
   void ShowModel(const HelpWindowView& help);
@@ -26,7 +26,7 @@ class HelpWindow : public QWidget, public Speaker {
  protected:
   void resizeEvent(QResizeEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  // The game is asked, which hides the window.
+  // Only asks the game, which then hides the window.
   void closeEvent(QCloseEvent* event) override;
 
  private:
@@ -37,7 +37,7 @@ class HelpWindow : public QWidget, public Speaker {
   HelpText* text_;
   FindLine* find_;
   QPushButton* close_;
-  int showings_ = 0;  // as shown
+  int showings_ = 0;  // as last shown
 };
 
 }  // namespace Parlino

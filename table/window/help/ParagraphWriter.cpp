@@ -14,9 +14,9 @@ using RichText::Alignment;
 using RichText::Paragraph;
 using RichText::Style;
 
-constexpr int HangOfMarker = 300;  // twips, where the document leaves no room for a marker
+constexpr int HangOfMarker = 300;  // twips, if the document leaves no room for a marker
 
-// Where the text of a paragraph stands between the edges, in twips. It may not leave the page.
+// The left indents of a paragraph, in twips. Text may not leave the page.
 struct Indents {
   explicit Indents(const Paragraph& paragraph)
       : left(std::max(0, paragraph.LeftIndent)), first(std::max(paragraph.FirstIndent, -left)) {
@@ -41,7 +41,7 @@ Qt::Alignment ToAlignment(Alignment aligned) {
   }
 }
 
-// The toolkit counts tabs from where the line begins.
+// Qt measures tab stops from the start of the line.
 QList<QTextOption::Tab> TabsOf(const Paragraph& paragraph, const Indents& indents, double zoom) {
   QList<QTextOption::Tab> tabs;
   const int lineStart = indents.left + indents.first;
@@ -70,8 +70,8 @@ QTextBlockFormat BlockFormat(const Paragraph& paragraph, double zoom) {
   return format;
 }
 
-// The families of a font of the document. Where its fonts are not installed, those with the same
-// metrics are.
+// The font families for a font of the document. If its fonts are not installed, families with the
+// same metrics take their place.
 QStringList FamiliesFor(const std::string& font) {
   static constexpr struct {
     const char* model;
@@ -98,7 +98,7 @@ QTextCharFormat CharFormat(const Style& look, double zoom) {
   return format;
 }
 
-// Characters with which Qt marks frames and objects become blanks.
+// Characters that Qt uses to mark frames and objects become spaces.
 QString ToParagraphText(const std::string& text) {
   QString result = QString::fromStdString(text);
   for (QChar& letter : result) {
@@ -119,7 +119,8 @@ double LengthInPixels(int twips, double zoom) {
 void WriteParagraph(const Paragraph& paragraph, double zoom, QTextCursor& cursor) {
   const Style first = paragraph.Runs.empty() ? Style() : paragraph.Runs.front().Look;
   cursor.setBlockFormat(BlockFormat(paragraph, zoom));
-  // Merged, for in the first paragraph of a cell it holds what the cell spans as well.
+  // Merged rather than set, because in the first paragraph of a cell the format also holds the
+  // cell's span.
   cursor.mergeBlockCharFormat(CharFormat(first, zoom));
   if (!paragraph.Marker.empty()) {
     Style marker = first;

@@ -1,4 +1,4 @@
-// Writes single paragraphs into a document of the toolkit's.
+// Writes single paragraphs into a Qt document.
 #pragma once
 
 #include <QTextCursor>
@@ -7,11 +7,11 @@
 
 namespace Parlino {
 
-// Formats the paragraph that the cursor stands in and writes the text into it. The cursor ends
-// behind it.
+// Formats the paragraph that the cursor is in and writes the text into it. The cursor ends up after
+// it.
 void WriteParagraph(const RichText::Paragraph& paragraph, double zoom, QTextCursor& cursor);
 
-// A length as pixels.
+// Converts a length in twips to pixels.
 double LengthInPixels(int twips, double zoom);
 
 }  // namespace Parlino

@@ -14,11 +14,11 @@ using RichText::Row;
 using RichText::Table;
 
 constexpr int CloseEdges = 60;       // twips
-constexpr int PageWidth = 560;       // pixels at zoom 1; a wider table fills the width there is
+constexpr int PageWidth = 560;       // pixels at zoom 1; a wider table takes the full width
 constexpr int MostGridColumns = 60;  // nobody could read a table with more
 constexpr int MostGridCells = 20'000;
 
-// The right edges of the row's cells, each wide enough to be seen.
+// The right edges of the row's cells, each cell being wide enough to be visible.
 std::vector<int> RightEdges(const Row& row) {
   std::vector<int> edges;
   int before = std::max(0, row.LeftEdge);
@@ -73,8 +73,8 @@ void WriteCell(const Cell& cell, double zoom, QTextTableCell place) {
   place.setFormat(format);
 }
 
-// A cell that runs over several columns takes them all, yet leaves one for each cell behind it; the
-// last one takes those that are left as well.
+// A cell that spans several columns takes all of them but leaves one for each cell after it; the
+// last cell also takes the remaining columns.
 void WriteRow(const Row& row, int number, const std::vector<int>& edges, double zoom,
               QTextTable& grid) {
   const std::vector<int> rightEdges = RightEdges(row);

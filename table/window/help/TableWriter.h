@@ -1,4 +1,4 @@
-// Writes tables into a document of the toolkit's.
+// Writes tables into a Qt document.
 #pragma once
 
 #include <vector>
@@ -9,15 +9,15 @@
 
 namespace Parlino {
 
-// Whether a grid can hold the table: beyond a useful size it would cost memory out of proportion.
+// Whether a grid can hold the table: beyond a useful size it would cost too much memory.
 bool FitsGrid(const RichText::Table& table);
 
-// Puts a table that fits a grid behind the paragraph that the cursor stands in. The cursor ends
-// inside it.
+// Inserts a table that fits a grid after the paragraph that the cursor is in. The cursor ends up
+// inside the table.
 void WriteTable(const RichText::Table& table, double zoom, QTextCursor& cursor);
 
-// The right edges of the columns that all rows of the table share, in twips and rising. Edges that
-// are so close that they were meant to be one are one.
+// The right edges of the columns that all rows of the table share, in twips and ascending. Edges
+// that are close enough to be meant as one are merged.
 std::vector<int> ColumnEdges(const RichText::Table& table);
 
 }  // namespace Parlino

@@ -1,4 +1,4 @@
-// What the buttons drawn by us do with keys.
+// How the buttons that the game draws itself respond to keys.
 #pragma once
 
 #include <QAbstractButton>
@@ -7,8 +7,8 @@
 
 namespace Parlino {
 
-// Answers to Space and Enter while it has the focus, once however long they are held. All other
-// keys, and those two together with Ctrl or Alt, are left to what holds the button.
+// Responds to Space and Enter while it has the focus, once however long they are held. All other
+// keys, and these two together with Ctrl or Alt, are left to the parent widget.
 class KeyButton : public QAbstractButton {
  public:
   using QAbstractButton::QAbstractButton;

@@ -5,9 +5,9 @@
 
 namespace Parlino {
 
-// Some desktops send a key that is held down as a release and a press of the same moment. The
-// Qt recognises the two only when both have arrived, which is a matter of luck; here each such
-// press is marked as a repeated one on its way to the window.
+// Some desktops send a key that is held down as a release and a press with the same timestamp. Qt
+// recognises the pair only if both have arrived when it looks, which is a matter of luck; here each
+// such press is marked as a repeat on its way to the window.
 class KeyRepeat : public QObject {
  public:
   KeyRepeat();

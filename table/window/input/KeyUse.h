@@ -1,4 +1,4 @@
-// Whether the person plays by keys. A mark on what the next Enter takes is of use to nobody else.
+// Whether the person plays with the keys. Nobody else needs a mark on what the next Enter takes.
 #pragma once
 
 #include <QObject>
@@ -11,8 +11,8 @@ class KeyUse : public QObject {
  public:
   KeyUse();
 
-  // From the first key that moves a mark or uses it until the mouse is pressed, whatever window
-  // they come to.
+  // On from the first key that moves or uses a mark until a mouse button is pressed, in whichever
+  // window that happens.
   [[nodiscard]] bool IsOn() const { return isOn_; }
 
   // To be called for each such key.

@@ -1,4 +1,4 @@
-// Keys as a player names them.
+// Keys as a player thinks of them.
 #pragma once
 
 #include <optional>
@@ -9,12 +9,12 @@
 
 namespace Parlino {
 
-// Enter, of the letters or of the numbers.
+// Enter on the main keyboard or on the number pad.
 inline bool IsEnter(const QKeyEvent& key) {
   return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
 }
 
-// The keys that take what is marked.
+// The keys that accept what is marked.
 inline bool IsEnterOrSpace(const QKeyEvent& key) {
   return IsEnter(key) || key.key() == Qt::Key_Space;
 }
@@ -28,14 +28,15 @@ inline bool IsArrow(const QKeyEvent& key) {
   return key.key() >= Qt::Key_Left && key.key() <= Qt::Key_Down;
 }
 
-// A key together with others is a command, but for Shift, which some keyboards need for digits.
+// A key pressed together with others is a command, except with Shift, which some keyboards need for
+// digits.
 inline bool IsPlain(const QKeyEvent& key) {
   return (key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == 0;
 }
 
 std::optional<int> DigitOf(const QKeyEvent& key);
 
-// The suit that begins with the letter.
+// The suit whose name begins with this letter.
 std::optional<Integer> SuitOf(const QKeyEvent& key);
 
 }  // namespace Parlino

@@ -1,5 +1,5 @@
-// The events that the toolkit has reported and the game has not yet been told of. The toolkit's
-// handlers only append here; the events are raised later, where an exception may leave.
+// The events that Qt has reported but the game has not been told of yet. Qt's event handlers only
+// append here; the events are fired later, where they may leave by an exception.
 #pragma once
 
 #include <deque>
@@ -7,7 +7,7 @@
 
 namespace Parlino {
 
-// A door of the table and the number that goes through it.
+// A door of the table and the number passed through it.
 struct PendingEvent {
   bool (*door)(int number);
   int number = 0;
@@ -16,7 +16,7 @@ struct PendingEvent {
 
 class PendingEvents {
  public:
-  // The same event twice in a row is one when it comes from a mouse that moves.
+  // For a moving mouse: two identical events in a row count as one.
   void AppendOnce(PendingEvent event) {
     if (events_.empty() || events_.back() != event) events_.push_back(event);
   }

@@ -51,7 +51,7 @@ QRect CaptionLabel::LineBox(int line) const {
   const int textWidth = QFontMetrics(look_.font).horizontalAdvance(text);
   const bool isCentred = look_.align == Qt::AlignHCenter && mostWidth_ == 0;
   const int left = isCentred ? (width() - textWidth) / 2 : 0;
-  // Lines that are a little too many for the box move closer together.
+  // If there are slightly too many lines for the box, they move closer together.
   const int step = (height() - Overhang) / static_cast<int>(lines_.size());
   return {left, line * std::min(lineHeight_, step), textWidth, lineHeight_};
 }

@@ -1,4 +1,4 @@
-// A label of the table: text in its own colour on nothing, on a box or on a strip of ground that is
+// A label of the table: text in a colour of its own, without a background, on a box, or on a strip
 // just as large as the text.
 #pragma once
 
@@ -25,13 +25,13 @@ class CaptionLabel : public QLabel {
  public:
   CaptionLabel(const LabelLook& look, QWidget* parent);
 
-  // A label that sizes itself keeps to at most this width; others keep the size of their box.
+  // Makes the label size itself to its text, up to this width; other labels keep the size of their
+  // box.
   void SizeToCaption(int mostWidth);
-  // Text wider than this is wrapped or cut short; the box is as wide as the text may get unless
-  // told otherwise.
+  // Text wider than this is wrapped or shortened; without a limit, the width of the box applies.
   void LimitTextWidth(int width) { textWidth_ = width; }
 
-  // Shows the text, cut short where it does not fit; the tool tip then has all of it.
+  // Shows the text, shortened if it does not fit; the tool tip then has all of it.
   void ShowCaption(const QString& caption);
   void ShowModel(const Label& label) { ShowCaption(QString::fromStdString(label.Caption)); }
 

@@ -8,7 +8,7 @@ QString PlainToolTip(const QString& text) {
   return Qt::mightBeRichText(text) ? "<span>" + text.toHtmlEscaped() + "</span>" : text;
 }
 
-// Liberation Serif has the same metrics as its model, letter by letter.
+// Liberation Serif has the same metrics as Times New Roman, letter by letter.
 const QStringList& TextFamilies() {
   static const QStringList families{"Times New Roman", "Liberation Serif", "serif"};
   return families;
@@ -25,7 +25,7 @@ QFont TextFont(double points) {
   QFont font;
   font.setFamilies(TextFamilies());
   font.setPixelSize(TextPixels(points));
-  font.setBold(false);  // said, so that it is not taken over from the window
+  font.setBold(false);  // set explicitly, or it would be inherited from the window
   return font;
 }
 

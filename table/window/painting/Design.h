@@ -32,7 +32,7 @@ inline QString ToText(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-// A tool tip that shows its text as it stands, also where a player's name looks like markup.
+// A tool tip that shows its text literally, even if a player's name looks like markup.
 QString PlainToolTip(const QString& text);
 
 namespace Colours {
@@ -58,7 +58,7 @@ inline constexpr QColor EdgeLight(240, 240, 240);
 inline constexpr QColor EdgeGrey(128, 128, 128);
 }  // namespace Colours
 
-// Dark text on light grounds, whatever the colours of the desktop.
+// Dark text on a light background, whatever the desktop's colours are.
 QPalette LightColours(const QColor& window, const QColor& button = Colours::LightGrey);
 
 enum class Slope { Upright, Italic };
@@ -68,17 +68,16 @@ enum class Rule { None, Underline };
 // screen.
 QFont TimesBold(double points, Slope slope = Slope::Upright, Rule rule = Rule::None);
 
-// The families of running text, the first one there is counting.
+// The font families of running text; the first one that is installed is used.
 const QStringList& TextFamilies();
 
-// The size of letters of so many points, in pixels; never so small or large that nothing could be
-// read.
+// The size in pixels of letters of so many points, kept within a range that can still be read.
 int TextPixels(double points, double zoom = 1);
 
-// Running text of so many points.
+// The font of running text, so many points large.
 QFont TextFont(double points);
 
-// The font of every control that names none of its own.
+// The font of every control for which no other font is given.
 inline QFont WindowFont() {
   return TimesBold(11.25);
 }

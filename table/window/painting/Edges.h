@@ -1,5 +1,5 @@
-// Thin edges. They are filled, not drawn with a pen: on a screen with one and a half dots to a
-// pixel a pen's line lands beside the edge of the ground it belongs to.
+// Thin edges. They are filled, not drawn with a pen: on a screen with 1.5 device pixels to a pixel,
+// a pen's line lands beside the edge of the area that it belongs to.
 #pragma once
 
 #include <QColor>
@@ -8,8 +8,8 @@
 
 namespace Parlino {
 
-// The inner edges of the box, a pixel wide: one colour along its top and left, one along its bottom
-// and right, which have the corners between them.
+// The inner edges of the box, one pixel wide: one colour along the top and left, the other along
+// the bottom and right, which includes the two corners where the colours meet.
 inline void DrawEdges(QPainter& painter, const QRect& box, const QColor& topLeft,
                       const QColor& bottomRight) {
   painter.fillRect(box.left(), box.top(), box.width(), 1, topLeft);

@@ -22,15 +22,15 @@ FocusMark::FocusMark(QWidget* table) : QWidget(table) {
   hide();
 }
 
-// The next card keeps its edge, with its rank behind it.
+// Leaves the edge of the next card uncovered, and so its rank too.
 void FocusMark::Frame(QRect card, int seenWidth, bool isPlayable) {
   if (seenWidth < card.width()) card.setWidth(seenWidth - Thickness - 1);
   setGeometry(card.marginsAdded(Around));
   if (std::exchange(hasPointer_, isPlayable) != isPlayable) update();
 }
 
-// Its shape is seen where its colour is not, and both have a dark edge: the cards are white and the
-// table is dark.
+// The shape can be seen without the colour. Frame and pointer have a dark edge, because the cards
+// are white and the table is dark.
 void FocusMark::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);

@@ -1,4 +1,4 @@
-// The frame round the card of the hand that the keys have reached, with a pointer above it while
+// The frame around the card of the hand that the keys have reached, with a pointer above it while
 // the card may be played.
 #pragma once
 
@@ -10,7 +10,7 @@ class FocusMark : public QWidget {
  public:
   explicit FocusMark(QWidget* table);
 
-  // Frames the card, of which `seenWidth` pixels are not covered by the next one.
+  // Frames the card; the next card leaves `seenWidth` pixels of it visible.
   void Frame(QRect card, int seenWidth, bool isPlayable);
 
  protected:

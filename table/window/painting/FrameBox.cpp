@@ -22,7 +22,7 @@ void FrameBox::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), look_.ground);
   const QFontMetrics metrics(look_.font);
-  // A frame that ends at the edge of the window still shows its line there.
+  // If the frame extends to the edge of the window, its line is still drawn there.
   const QRect seen = rect() & parentWidget()->rect().translated(-pos());
   const QColor dark = look_.ground.darker(220);
   const QColor light = look_.ground.lighter(190);

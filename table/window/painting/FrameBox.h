@@ -13,8 +13,9 @@ struct FrameLook {
   QFont font;
 };
 
-// A frame in the classic look: an etched line all round, its title set into it at the top. The
-// title is given once the frame is there: tools are told of it and would not know the frame yet.
+// A frame in the classic look: an etched line all round, with its title set into it at the top. Set
+// the title after creating the frame: assistive tools are told of the title and must already know
+// the frame.
 class FrameBox : public QGroupBox {
  public:
   FrameBox(const FrameLook& look, QWidget* parent);
@@ -26,7 +27,7 @@ class FrameBox : public QGroupBox {
   FrameLook look_;
 };
 
-// A box in one colour, with a border of another when `borderWidth` is above 0.
+// A box in one colour, with a border in another if `borderWidth` is above 0.
 class FilledBox : public QWidget {
  public:
   FilledBox(const QColor& fill, QWidget* parent);

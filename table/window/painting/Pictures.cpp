@@ -32,7 +32,7 @@ QPixmap DrawPicture(const QString& name, QSize size, qreal ratio) {
 }
 
 QPixmap Picture(const QString& name, QSize size, qreal ratio) {
-  // Pixels must be gone before the application is.
+  // Pixmaps must be destroyed before the application is.
   if (drawnPictures.empty()) qAddPostRoutine([] { drawnPictures.clear(); });
   QPixmap& pixels = drawnPictures[{name, size.width(), ratio}];
   if (pixels.isNull()) pixels = DrawPicture(name, size, ratio);

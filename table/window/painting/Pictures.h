@@ -1,5 +1,5 @@
 // The pictures of the game: vector drawings inside the program, turned into pixels when they are
-// first needed and remembered.
+// first needed, and then kept.
 #pragma once
 
 #include <QPixmap>
@@ -9,10 +9,10 @@
 
 namespace Parlino {
 
-// The size of picture 1..63 of the image list, in pixels at ratio 1.
+// The size of picture 1..63 of the image list, in pixels at a device pixel ratio of 1.
 QSize PictureSize(Integer picture);
 
-// Picture 1..63 at the device pixel ratio of the screen.
+// Picture 1..63 at this device pixel ratio.
 QPixmap CardPicture(Integer picture, qreal ratio);
 
 // Picture 1..3 of the message dialog, 32 pixels square.
@@ -24,7 +24,7 @@ QPixmap SmallBack(qreal ratio);
 // The program's icon.
 QPixmap IconPicture(int size);
 
-// Gives the program's icon to all of its windows, from now on.
+// Sets the program's icon for all of its windows, including those created later.
 void GiveWindowsIcon();
 
 }  // namespace Parlino

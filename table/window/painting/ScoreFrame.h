@@ -6,8 +6,7 @@
 
 namespace Parlino {
 
-// One text of the frame: in row 0 the headings, in column 0 the names of the rows, elsewhere
-// counts.
+// One text of the frame: headings in row 0, names of the rows in column 0, counts elsewhere.
 class ScoreCell : public CaptionLabel {
  public:
   ScoreCell(int row, int column, const LabelLook& look, QWidget* parent)
@@ -27,7 +26,7 @@ class ScoreFrame : public FrameBox {
   ScoreCell* AddCell(int row, int column, const LabelLook& look) {
     return cells_[row][column] = new ScoreCell(row, column, look, this);
   }
-  // Row 0..6, column 0..2; there is none in the corner between the headings.
+  // Row 0..6, column 0..2; there is no cell in the corner between the headings.
   [[nodiscard]] ScoreCell* Cell(int row, int column) const { return cells_[row][column]; }
 
  private:

@@ -6,7 +6,7 @@ class QWidget;
 
 namespace Parlino {
 
-// Gives the widget its tool tip. One that is open over it with another text goes.
+// Gives the widget its tool tip. If one with another text is open over it, it is closed.
 void ChangeToolTip(QWidget& widget, const QString& text);
 
 }  // namespace Parlino

@@ -9,8 +9,8 @@
 
 namespace Parlino {
 
-// What is too long loses its middle: names stand at the beginning of a text, what is said of them
-// at its end.
+// Text that is too long is shortened in the middle: a name stands at the beginning, and what is
+// said about it at the end.
 QStringList WrapText(const QString& text, const QFont& font, int width, int mostLines) {
   const QFontMetrics metrics(font);
   if (metrics.horizontalAdvance(text) <= width) return {text};
@@ -54,8 +54,8 @@ int LinesThatFit(int height, const QFont& font) {
   return std::max(1, (height - Overhang) / LineHeight(font));
 }
 
-// The toolkit's own underline of this typeface runs through the feet of large letters; this one
-// keeps clear of them.
+// Qt's own underline in this typeface runs through the bottom of large letters; this one keeps
+// clear of them.
 void DrawLine(QPainter& painter, QRect box, const QString& text, const QFont& font) {
   constexpr double gapOfSize = 0.095;
   constexpr double thicknessOfSize = 0.05;

@@ -6,14 +6,14 @@
 
 namespace Parlino {
 
-// A small square with a number. It answers to the mouse, and to Space and Enter while it has the
+// A small square with a number. It responds to the mouse, and to Space and Enter while it has the
 // focus.
 class BidFace : public KeyButton {
  public:
   explicit BidFace(QWidget* parent);
 
   void ShowModel(const BidButton& button);
-  // Whether the face shows that it has the focus: it is of no use to the mouse.
+  // Whether the face shows that it has the focus; a mouse player has no use for that.
   void MarkFocus(bool marked);
 
  protected:

@@ -7,8 +7,8 @@
 
 namespace Parlino {
 
-// A card changes hands without a change of its picture box, and the turn is no part of the table:
-// so every card is looked at.
+// A card can change hands without a change to its picture box, and the turn is not part of the
+// table's model, so every card is checked.
 void CardHints::Follow() {
   const CardSet row = PlayersRow();
   const CardSet toShow =

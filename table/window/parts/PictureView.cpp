@@ -13,8 +13,8 @@
 namespace Parlino {
 namespace {
 
-// Where the pointer points: the tip of the finger, the middle of the sign. The X server counts the
-// dots of the picture, others count pixels.
+// The point of the picture that points: the tip of the finger, or the middle of the sign. X11
+// counts in pixels of the picture, other platforms in device-independent pixels.
 QPoint HotSpot(Integer pointer, qreal ratio) {
   const QPoint spot = pointer == PicturePointerPlay ? QPoint(11, 2) : QPoint(16, 16);
   return QGuiApplication::platformName() == "xcb" ? (spot * ratio) : spot;

@@ -10,8 +10,8 @@
 
 namespace Parlino {
 
-// Shows a picture of the image list and takes its size. A click is the left button pressed and let
-// go over the part of this picture that is to be seen.
+// Shows a picture of the image list and takes on its size. A click is the left button pressed on
+// this picture and released over a visible part of it.
 class PictureView : public QWidget {
  public:
   explicit PictureView(QWidget* parent);
@@ -19,12 +19,12 @@ class PictureView : public QWidget {
   std::function<void()> onClick;
   std::function<void()> onHover;
 
-  // Shows the picture of the model, but for its hint.
+  // Shows the picture that the model gives, but not its hint.
   void ShowModel(const PictureBox& box);
-  // Shows the picture of the image list as the mouse pointer, 0 for the ordinary one, and a tool
-  // tip, or none.
+  // Shows the picture of the image list as the mouse pointer (0 for the ordinary one), and a tool
+  // tip, or none if it is empty.
   void ShowHint(Integer pointer, const std::string& tip);
-  // The picture of the image list that is shown; 0 is none.
+  // The picture of the image list that is shown; 0 for none.
   [[nodiscard]] Integer Picture() const { return picture_; }
 
  protected:

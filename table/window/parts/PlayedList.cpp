@@ -15,7 +15,7 @@
 
 namespace Parlino {
 
-// The lines as they stood when the list was last shown: a line is copied once, when it is new.
+// The lines as they were when the list was last shown; each line is copied once, when it is new.
 class PlayedLines : public QAbstractListModel {
  public:
   using QAbstractListModel::QAbstractListModel;
@@ -25,7 +25,7 @@ class PlayedLines : public QAbstractListModel {
   }
 
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
-    // The view also asks for the current line where there is none.
+    // The view also asks for the current line when there is none.
     if (!index.isValid()) return {};
     if (role == Qt::AccessibleTextRole) return SpokenLine(index.row(), lines_.at(index.row()));
     return role == Qt::DisplayRole ? lines_.at(index.row()) : QVariant();
@@ -50,8 +50,8 @@ class PlayedLines : public QAbstractListModel {
 
 namespace {
 
-// A name too long for the list is cut short, what was played never; the line between two tricks
-// just runs out of the list.
+// A name too long for the list is shortened, but never the card played; the line between two tricks
+// is simply cut off at the edge.
 class LineDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -66,7 +66,7 @@ class LineDelegate : public QStyledItemDelegate {
   }
 
  private:
-  // What the style leaves free on each side of a line.
+  // The space that the style leaves on each side of a line.
   static int Margin(const QWidget& list) {
     return list.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &list) + 1;
   }
@@ -90,11 +90,12 @@ PlayedList::PlayedList(QWidget* parent) : QListView(parent), lines_(new PlayedLi
   colours.setColor(QPalette::HighlightedText, Colours::Navy);
   setPalette(colours);
   verticalScrollBar()->setPalette(QApplication::palette());
-  // Its menu would run a loop of the toolkit's own, and the game would stand still meanwhile.
+  // The context menu of a scroll bar runs an event loop of Qt's own, and the game would stand
+  // still.
   verticalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);
 }
 
-// The frame; the lines are painted by the viewport inside it.
+// Draws the frame; the lines are painted by the viewport inside it.
 bool PlayedList::event(QEvent* event) {
   if (event->type() != QEvent::Paint) return QListView::event(event);
   QPainter painter(this);
@@ -102,7 +103,7 @@ bool PlayedList::event(QEvent* event) {
   return true;
 }
 
-// Whoever comes by the keys begins at the newest line.
+// A player who comes here by key starts at the newest line.
 void PlayedList::focusInEvent(QFocusEvent* event) {
   if (!currentIndex().isValid() && event->reason() != Qt::MouseFocusReason)
     setCurrentIndex(lines_->index(lines_->rowCount({}) - 1));
@@ -110,7 +111,7 @@ void PlayedList::focusInEvent(QFocusEvent* event) {
   update();
 }
 
-// Only what has the focus is marked.
+// Only while it has the focus does the list mark a line.
 void PlayedList::focusOutEvent(QFocusEvent* event) {
   QListView::focusOutEvent(event);
   const bool comesBack =

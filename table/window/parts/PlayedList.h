@@ -1,4 +1,4 @@
-// The list of the cards played, which always follows its newest line.
+// The list of the cards played, which always scrolls to its newest line.
 #pragma once
 
 #include <QListView>

@@ -43,12 +43,12 @@ bool ChooseMenuNumber(int item) {
   return ChooseMenu(static_cast<MenuItem>(item));
 }
 
-// `place` is the menu, or the menu bar itself.
+// `place` is a menu or the menu bar itself.
 void AddCommand(QWidget& place, const Command& command, PendingEvents& pending) {
   auto* action = new QAction(command.caption, &place);
   action->setObjectName(command.name);
   action->setShortcut(QKeySequence(command.shortcut));
-  action->setMenuRole(QAction::NoRole);  // an entry stays where it is on every desktop
+  action->setMenuRole(QAction::NoRole);  // keeps the entry in its place on every desktop
   const PendingEvent event{ChooseMenuNumber, static_cast<int>(command.item)};
   QObject::connect(action, &QAction::triggered, [&pending, event] { pending.Append(event); });
   place.addAction(action);

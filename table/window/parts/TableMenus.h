@@ -7,7 +7,7 @@ namespace Parlino {
 
 class PendingEvents;
 
-// Fills the menu bar; a command chosen is appended to the pending events.
+// Fills the menu bar; choosing a command appends it to the pending events.
 void BuildMenus(QMenuBar& bar, PendingEvents& pending);
 
 }  // namespace Parlino

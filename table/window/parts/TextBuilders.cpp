@@ -35,8 +35,8 @@ void BuildWelcomeText(const BuildSite& site, const char* name, const Label& mode
   site.mirror.Link(model, label, [label, &model] { label->ShowModel(model); });
 }
 
-// How far a name may run before it would meet the next thing beside it, in pixels. The Player's has
-// less room while the welcome button is there.
+// How far a name may extend before it meets the next thing beside it, in pixels. The Player's name
+// has less room while the welcome button is shown.
 int RoomForName(int seat) {
   constexpr int rooms[SeatsAtTable] = {166, 436, 354, 175};
   constexpr int roomBesideButton = 124;
@@ -53,8 +53,8 @@ void ShowName(CaptionLabel* label, int seat) {
 void BuildWelcomePanel(const BuildSite& site) {
   constexpr double titlePoints = 72;
   constexpr double introductionPoints = 18;
-  // The single card that lies on the table before the first deal must not look out from under the
-  // panel: a ground of the panel's own covers the middle of the table.
+  // A single card lies on the table before the first deal and must not show behind the panel, so
+  // the panel has a background of its own across the middle of the table.
   auto* ground = Named(new Speaking<FilledBox>(Colours::Navy, &site.parent), "WelcomeGround");
   ground->setGeometry(0, 160, ClientSize.width(), 396);
   site.mirror.Link(Table.LblIntro, ground);
@@ -78,9 +78,10 @@ void BuildNames(const BuildSite& site) {
   }
 }
 
-// The line shares its place with the Player's trick pile and its right end with the score frame. It
-// stays in front, on a ground no larger than its text, and ends where the frame begins. Its voice
-// never goes, or tools would read every note again whenever the line comes back.
+// The line overlaps the Player's trick pile and the left part of the score frame. It stays in
+// front, on a background no larger than its text, and its text ends where the frame begins. Its
+// accessible object never disappears; otherwise tools would read every note again whenever the line
+// comes back.
 void BuildInfoLine(const BuildSite& site) {
   constexpr int widthBesideScores = 355;
   auto* voice = Named(new Speaking<QWidget>(&site.parent), "InfoVoice");

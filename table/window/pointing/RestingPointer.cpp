@@ -41,15 +41,15 @@ void RestingPointer::Follow() {
   if (card != 0 && !HintHolds(card)) pending_.AppendOnce({HoverCard, card});
 }
 
-// Not with another window in front there, nor while a button is held and the toolkit gives every
+// False if another window is in front there, or while a button is held down and Qt sends every
 // movement to the widget on which it was pressed.
 bool RestingPointer::IsOnTable() const {
   return window_.underMouse() && TableTakesInput() &&
          QGuiApplication::mouseButtons() == Qt::NoButton;
 }
 
-// The toolkit finds the widget and shows its pointer. After a movement it would do so too, but then
-// a tip would pop up before a player who does nothing.
+// This makes Qt find the widget and show its pointer. A mouse move would do so too, but would also
+// open a tool tip for a player who does nothing.
 void RestingPointer::EnterAgain(QPoint place) {
   const QPoint spot = window_.mapFromGlobal(place);
   QEvent leave(QEvent::Leave);

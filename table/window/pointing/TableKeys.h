@@ -1,5 +1,5 @@
 // Play by the keys: takes the focus to where it is needed, and the keys of the bidding panel and of
-// the hand to the events that the mouse raises.
+// the hand to the events that the mouse fires.
 #pragma once
 
 #include <QObject>

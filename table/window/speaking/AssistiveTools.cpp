@@ -29,7 +29,7 @@ class SpokenPart : public QAccessibleWidget {
     return state;
   }
 
-  // The place of a card face down would tell whose it is.
+  // The position of a card that lies face down would reveal whose it is.
   [[nodiscard]] QRect rect() const override {
     return speaker_.speak().isOnlyForEyes ? QRect() : QAccessibleWidget::rect();
   }
@@ -85,7 +85,7 @@ void SpokenChanges::Tell() {
     if (last.isOnlyForEyes && !before.isOnlyForEyes)
       report(widget, QAccessible::ObjectHide);
     else if (last.isOnlyForEyes != before.isOnlyForEyes || (saysMore && !last.isOnlyForEyes))
-      report(widget, QAccessible::ObjectShow);  // tools read a notification when it comes
+      report(widget, QAccessible::ObjectShow);  // tools read a notification when it appears
   }
 }
 

@@ -1,4 +1,4 @@
-// Brings what the parts of the table say to the assistive tools of the desktop.
+// Passes what the parts of the table say to the desktop's assistive tools.
 #pragma once
 
 #include <functional>
@@ -12,22 +12,22 @@ class QWidget;
 
 namespace Parlino {
 
-// Lets the toolkit find out what the program's widgets say. Once, before the first of them is
+// Tells Qt how to find out what the program's widgets say. To be called once, before any of them is
 // asked.
 void IntroduceSpeakers();
 
-// Tells listening tools of one event. A notification that is shown is read out by them.
+// Tells listening tools of one event. They read out a notification that is shown.
 void TellTools(QWidget* widget, QAccessible::Event what);
 
-// Tells listening tools when a part of the table says something else than before, and only then.
+// Tells listening tools when a part of the table says something new, and only then.
 class SpokenChanges {
  public:
   explicit SpokenChanges(const QWidget& table) : table_(table) {}
 
-  // Looks at every speaker of the table; does nothing while no tool listens.
+  // Checks everything on the table that speaks; does nothing while no tool is listening.
   void Tell();
 
-  // Whether a tool listens, and how it is told; the toolkit knows both.
+  // Whether a tool is listening, and how to tell it; by default Qt answers both.
   std::function<bool()> isHeard = QAccessible::isActive;
   std::function<void(QWidget* widget, QAccessible::Event what)> report = TellTools;
 

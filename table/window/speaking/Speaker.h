@@ -1,5 +1,5 @@
-// What the parts of the table tell assistive tools. They are asked only when such a tool listens,
-// so that nobody else pays for it.
+// What the parts of the table tell assistive tools. They are asked only while such a tool is
+// listening, so that it costs nothing otherwise.
 #pragma once
 
 #include <functional>
@@ -12,7 +12,7 @@ namespace Parlino {
 struct Spoken {
   QAccessible::Role role = QAccessible::StaticText;
   QString name = {};
-  bool isOnlyForEyes = false;  // says nothing that is not said elsewhere
+  bool isOnlyForEyes = false;  // hidden from tools
   bool canBePressed = false;
 };
 
@@ -25,7 +25,7 @@ class Speaker {
   std::function<void()> press = [] {};
 };
 
-// A widget that has something of its own to say.
+// A widget that tells tools something of its own.
 template <class Widget>
 class Speaking : public Widget, public Speaker {
  public:

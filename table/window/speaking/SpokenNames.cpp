@@ -13,7 +13,7 @@ QString SeatWord(Integer seat) {
   return words[seat];
 }
 
-// With the name that the seat has been given, where it is another one.
+// Includes the name that the seat has been given, if it differs.
 QString SeatTitle(Integer seat) {
   const QString name = ToText(seat == Player ? PlayerName : SeatNames[seat]).simplified();
   const QString word = SeatWord(seat);

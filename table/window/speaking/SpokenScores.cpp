@@ -30,7 +30,7 @@ class SpokenHeader : public QAccessibleWidget {
   const ScoreCell& cell_;
 };
 
-// Tools count rows and columns from 0, without the headers.
+// Tools count rows and columns from 0, not including the headers.
 class SpokenCount : public QAccessibleWidget, public QAccessibleTableCellInterface {
  public:
   explicit SpokenCount(ScoreCell* cell)
@@ -80,7 +80,7 @@ class SpokenScores : public QAccessibleWidget, public QAccessibleTableInterface 
     return QAccessibleWidget::interface_cast(type);
   }
 
-  // The lines between the rows are only for the eye.
+  // The lines between the rows are hidden from tools.
   [[nodiscard]] int childCount() const override { return static_cast<int>(Children().size()); }
   [[nodiscard]] QAccessibleInterface* child(int index) const override {
     return VoiceOf(Children().value(index));
@@ -104,7 +104,7 @@ class SpokenScores : public QAccessibleWidget, public QAccessibleTableInterface 
   [[nodiscard]] QAccessibleInterface* summary() const override { return nullptr; }
   void modelChange(QAccessibleTableModelChangeEvent*) override {}
 
-  // There is nothing to choose in it.
+  // Nothing in it can be selected.
   [[nodiscard]] int selectedCellCount() const override { return 0; }
   [[nodiscard]] int selectedColumnCount() const override { return 0; }
   [[nodiscard]] int selectedRowCount() const override { return 0; }
@@ -119,7 +119,7 @@ class SpokenScores : public QAccessibleWidget, public QAccessibleTableInterface 
   bool unselectColumn(int) override { return false; }
 
  private:
-  // The counts row by row, as tools number the cells of a table, then the headers.
+  // The counts row by row, as tools number the cells of a table, and then the headers.
   [[nodiscard]] QList<QObject*> Children() const {
     QList<QObject*> cells;
     for (int row = 1; row <= ScoreFrame::Rows; ++row)

@@ -7,7 +7,7 @@ class QWidget;
 
 namespace Parlino {
 
-// The voice of the score frame or of one of its texts; none for any other widget.
+// The accessible object for the score frame or one of its texts; nullptr for any other widget.
 QAccessibleInterface* FindVoiceOfScores(QWidget* widget);
 
 }  // namespace Parlino

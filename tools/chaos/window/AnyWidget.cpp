@@ -7,7 +7,7 @@
 namespace Parlino {
 namespace {
 
-// The toolkit lists its windows in no order of its own, and a run has to repeat.
+// Qt lists its windows in no particular order, but a run must be repeatable.
 bool ComesBefore(const QWidget* one, const QWidget* other) {
   const QString names[] = {one->objectName(), other->objectName()};
   if (names[0] != names[1]) return names[0] < names[1];

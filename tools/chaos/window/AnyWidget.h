@@ -1,4 +1,4 @@
-// Widgets that may be there or not.
+// Widgets that may or may not exist.
 #pragma once
 
 #include <QString>
@@ -8,10 +8,10 @@
 
 namespace Parlino {
 
-// The widget of that name, or nothing.
+// The widget with that name, or nullptr.
 QWidget* FindAny(const QString& name);
 
-// A window that is on the screen, and a part of one; nothing when no window is.
+// Any window that is on the screen, and any visible part of one; nullptr if there is none.
 QWidget* ChooseWindow(ChaosPerson& person);
 QWidget* ChoosePart(ChaosPerson& person);
 

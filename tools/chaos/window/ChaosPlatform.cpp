@@ -5,7 +5,7 @@
 namespace Parlino {
 namespace {
 
-// Counts as long as it is there, also when it is left by an exception.
+// Counts for as long as it exists, even if its scope is left by an exception.
 class Counting {
  public:
   explicit Counting(int& counter) : counter_(counter) { ++counter_; }
@@ -19,17 +19,18 @@ class Counting {
 
 }  // namespace
 
-// What has been clicked already may leave the person no chance: the referee looks every time.
+// What has already been clicked may leave the person no chance to act, so the rules are checked on
+// every call.
 void ChaosPlatform::ProcessEvents(std::uint32_t atMostMs) {
   const Counting level(depth_);
   session_.CheckRules(depth_);
   QuickPlatform::ProcessEvents(atMostMs);
 }
 
-// Now and then somebody sets the clock of the machine.
-void ChaosPlatform::WaitForToolkit(std::uint32_t atMostMs) {
+// Now and then somebody sets the machine's clock.
+void ChaosPlatform::WaitForQt(std::uint32_t atMostMs) {
   if (session_.person.Once(1000)) clockAtStart_ = session_.person.NextBelow(86'400);
-  QuickPlatform::WaitForToolkit(session_.person.ChooseWait(atMostMs));
+  QuickPlatform::WaitForQt(session_.person.ChooseWait(atMostMs));
 }
 
 double ChaosPlatform::ClockSeconds() {

@@ -1,4 +1,4 @@
-// The window's platform with a person who does anything. Time and clock are virtual.
+// The window's platform with a person who may do anything. Time and clock are virtual.
 #pragma once
 
 #include "tests/window/WindowGame.h"
@@ -8,11 +8,11 @@ namespace Parlino {
 
 class ChaosPlatform : public QuickPlatform {
  public:
-  // The person is to be set; it is asked with everything shown as it stands.
+  // The caller sets `person`, which is called when everything is shown as it is in the model.
   ChaosPlatform(const std::filesystem::path& folder, ChaosSession& session)
       : QuickPlatform(folder), session_(session) {}
 
-  // Of what waits inside each other, and the boxes among it.
+  // How many waits are nested inside each other, and how many of them are boxes.
   [[nodiscard]] int Depth() const { return depth_; }
   [[nodiscard]] int BoxesOpen() const { return boxesOpen_; }
 
@@ -23,7 +23,7 @@ class ChaosPlatform : public QuickPlatform {
   void MsgBox(std::string_view text, std::string_view title, bool critical) override;
 
  protected:
-  void WaitForToolkit(std::uint32_t atMostMs) override;
+  void WaitForQt(std::uint32_t atMostMs) override;
 
  private:
   ChaosSession& session_;

@@ -1,4 +1,4 @@
-// A folder that vanishes for a while, or a record whose name a folder has taken.
+// A folder that is missing for a while, or a record with a folder in its place.
 #pragma once
 
 #include <filesystem>
@@ -14,14 +14,14 @@ class DiskTrouble {
   DiskTrouble& operator=(const DiskTrouble&) = delete;
   ~DiskTrouble() { End(); }
 
-  // Begins some trouble unless there is some.
+  // Causes some trouble, unless there is some already.
   void Begin(ChaosPerson& person);
-  // Everything is again as it was before.
+  // Restores everything as it was before.
   void End();
 
  private:
   std::filesystem::path folder_;
-  std::filesystem::path missed_;  // empty without any trouble
+  std::filesystem::path missed_;  // empty while there is no trouble
 };
 
 }  // namespace Parlino

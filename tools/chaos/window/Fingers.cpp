@@ -19,7 +19,7 @@ QWidget* WhatHasTheFocus() {
   return window->focusWidget() != nullptr ? window->focusWidget() : window;
 }
 
-// What a keyboard sends along with the key.
+// The text that a keyboard sends with the key.
 QString TextOf(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   if (key == Qt::Key_Return || key == Qt::Key_Enter) return "\r";
   if (key == Qt::Key_Tab) return "\t";
@@ -30,8 +30,8 @@ QString TextOf(Qt::Key key, Qt::KeyboardModifiers modifiers) {
 
 }  // namespace
 
-// A desktop's event finds its widget through the window, which a box in front of it may block.
-// Straight to the widget come those that were on their way when the box opened.
+// A desktop's event reaches its widget through the window, which may be blocked by a box in front
+// of it. Events that were on their way when the box opened go straight to the widget.
 void Fingers::Touch(QTest::MouseAction action, QWidget* widget, Qt::MouseButton button,
                     QPoint spot) {
   QWindow* window = widget->window()->windowHandle();
@@ -103,7 +103,7 @@ bool Fingers::Move(QWidget& widget) {
   return isSeen;
 }
 
-// A key that goes down may close the window; what comes then comes for nobody.
+// The press may close the window; then nobody receives the release.
 void Fingers::Strike(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   const QPointer<QWidget> focus = WhatHasTheFocus();
   if (focus == nullptr) return;
@@ -115,7 +115,7 @@ void Fingers::Strike(Qt::Key key, Qt::KeyboardModifiers modifiers) {
     else if (!isThroughWindow && focus != nullptr)
       QTest::simulateEvent(focus.data(), isDown, code, modifiers, text, false);
   };
-  const bool isAlt = modifiers.testFlag(Qt::AltModifier);  // opens the menus by itself
+  const bool isAlt = modifiers.testFlag(Qt::AltModifier);  // its press opens the menus
   if (isAlt) send(true, Qt::Key_Alt, {});
   send(true, key, TextOf(key, modifiers));
   send(false, key, TextOf(key, modifiers));

@@ -1,5 +1,5 @@
-// The mouse and the keys: clicks, moves and strokes as a person makes them, and as one makes them
-// by mistake.
+// The mouse and the keys: clicks, movements and keystrokes as a person makes them, on purpose or by
+// mistake.
 #pragma once
 
 #include <QPoint>
@@ -15,21 +15,21 @@ class Fingers {
  public:
   explicit Fingers(ChaosSession& session) : session_(session) {}
 
-  // Each says whether the widget was on the screen; a widget that is not gets its events all the
-  // same, as those that are late by a moment.
+  // Each returns whether the widget was on the screen; if it was not, it gets the events all the
+  // same, like events that arrive a moment too late.
 
-  // Clicks on the widget where it is seen even when the next card lies over it; now and then in
-  // another way, which may be no click at all.
+  // Clicks on a spot of the widget that is visible even when the next card covers the rest; now and
+  // then fumbles instead, which may be no click at all.
   bool Click(QWidget& widget);
   // One click of the left button at a spot of the widget.
   bool ClickAt(QWidget& widget, QPoint spot);
-  // Something with any button, also beside the widget.
+  // Does something with any mouse button, possibly outside the widget.
   bool Fumble(QWidget& widget);
   bool Move(QWidget& widget);
 
-  // Strikes a key for whatever has the focus, if anything has.
+  // Presses and releases a key for whatever has the focus, if anything has.
   void Strike(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
-  // Writes for whatever has the focus: by the keys, by an input method or from the clipboard.
+  // Enters text where the focus is: with the keys, by an input method or from the clipboard.
   void Write(const QString& text);
 
  private:

@@ -1,5 +1,5 @@
 // parlino-chaos-window: plays hands at the real window while a person does anything at any time,
-// and checks at every chance that the rules of the table and of its window hold.
+// and checks at every opportunity that the rules of the table and of its window hold.
 //
 //   parlino-chaos-window --hands N --seed S
 #include <csignal>
@@ -16,7 +16,7 @@ namespace {
 
 const Parlino::WindowChaos* chaosInUse = nullptr;
 
-// Nothing of the program goes on after this, so whatever it holds half done does not matter.
+// The program ends here, so it does not matter what the signal has interrupted.
 void TellHang(int) {
   chaosInUse->Tell("no progress for a minute");
   _exit(1);
@@ -33,11 +33,12 @@ int main(int count, char* arguments[]) {
     std::cerr << "usage: parlino-chaos-window --hands N --seed S\n";
     return 2;
   }
-  // Without a wish of the caller's the windows are drawn into memory. The settings of the desktop
-  // would make a run of their own.
+  // Unless the caller chooses a platform, the windows are drawn into memory. Settings of the
+  // desktop would make runs differ.
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
-  // A spot beside the window, a plugin that cannot raise one: of no interest here.
+  // Warnings, such as that a spot is outside the window or that a plugin cannot raise one, are of
+  // no interest here.
   QLoggingCategory::setFilterRules("*.warning=false");
   int onlyTheProgramsName = 1;
   const QApplication application(onlyTheProgramsName, arguments);

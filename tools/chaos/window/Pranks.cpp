@@ -42,7 +42,7 @@ void Pranks::Play() {
   if (OpenBox() != nullptr && session_.person.Once(250)) EndSession();
 }
 
-// Keys that a window has a use for; those that end the program or abandon the hand are rare.
+// Mostly keys that a window responds to; those that end the program or abandon the hand are rare.
 void Pranks::StrikeAnyKey() {
   ChaosPerson& person = session_.person;
   constexpr Qt::Key useful[] = {Qt::Key_Tab,   Qt::Key_Backtab, Qt::Key_Return,    Qt::Key_Enter,
@@ -119,7 +119,7 @@ void Pranks::ReshapeWindow() {
   }
 }
 
-// The desktop hides and shows windows when the workspace is changed, and passes the keys on.
+// As the desktop does when the workspace changes: it hides and shows windows and moves the focus.
 void Pranks::ShowWindowAgain() {
   QWidget* window = ChooseWindow(session_.person);
   if (window == nullptr || window->windowType() == Qt::Popup) return;

@@ -1,5 +1,5 @@
-// What a person can do to the windows themselves and does to no purpose: any key, any spot, sizes,
-// menus left open, and at last the end of the desktop's session.
+// What a person can do to the windows themselves without any purpose: press any key, click
+// anywhere, resize windows, leave menus open and, finally, end the desktop's session.
 #pragma once
 
 #include "tools/chaos/window/Fingers.h"
@@ -10,7 +10,7 @@ class Pranks {
  public:
   Pranks(ChaosSession& session, Fingers& fingers) : session_(session), fingers_(fingers) {}
 
-  // Plays one of them.
+  // Plays one of the pranks.
   void Play();
 
  private:

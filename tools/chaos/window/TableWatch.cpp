@@ -25,7 +25,7 @@ bool IsInPlayersHand(int card) {
   return Pack[card].Owner == Player && box.Picture == card && box.Place.Top == top;
 }
 
-// Only a card of the Player's hand has a hint, and none that does not hold.
+// Only a card of the Player's hand may have a hint, and only one that is true.
 bool HintIsRight(const QWidget& widget, int card) {
   const PictureBox& box = Table.Cds[card];
   const bool isDue = IsInPlayersHand(card) && HintHolds(ToInteger(card));
@@ -33,7 +33,7 @@ bool HintIsRight(const QWidget& widget, int card) {
          widget.toolTip() == (isDue ? PlainToolTip(ToText(box.ToolTipText)) : QString());
 }
 
-// What a person sees who does not move the mouse.
+// What a person sees without moving the mouse.
 bool PointerTellsWhoseTurnItIs() {
   const QWidget& window = WindowGame::Find("FrmMain");
   const bool isThere = window.underMouse() && TableTakesInput() &&
@@ -131,8 +131,8 @@ void TableWatch::TellList() {
   };
 }
 
-// What was brought to the front later lies in front; West's name and the information line in front
-// of all.
+// Controls brought to the front later must lie further in front; West's name and the information
+// line lie in front of everything.
 bool TableWatch::LayersAreInOrder() const {
   std::unordered_map<const QObject*, std::uint32_t> layers;
   for (const Tie& tie : ties_) layers.emplace(tie.widget, tie.control->Layer);

@@ -13,13 +13,14 @@ namespace Parlino {
 
 class TableWatch {
  public:
-  // The table window is there, and stays as long as this.
+  // The table window must exist for as long as this object.
   TableWatch();
 
-  // Names the first control that is not shown as it is, or nothing. To be asked when the window has
-  // just shown the model; places count only while nothing glides.
+  // The name of the first control that is not shown as in the model, or an empty string. To be
+  // called when the window has just shown the model; positions are compared only while nothing
+  // glides.
   std::string Look(bool nothingGlides) const;
-  // Likewise for what is drawn on the widget of this card.
+  // The same for the picture drawn on this card's widget.
   std::string LookAtFace(int card) const;
 
  private:

@@ -31,8 +31,8 @@ WindowChaos::WindowChaos(int hands, std::uint64_t seed)
       trouble_(folder_.path().toStdString()) {
   DealGenerator.Seed(seed);
   QCoreApplication::instance()->installEventFilter(&timerStopper_);
-  // A loop of the toolkit's own would wait for a person who is inside it. Without an answer to a
-  // drag or a menu it ends at once.
+  // If Qt ran an event loop of its own, it would wait for the person, who is acting inside it. So
+  // an open menu or a drag is ended at once.
   QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
                    [this] {
                      if (!isActing_) return;
@@ -80,7 +80,7 @@ void WindowChaos::SetUpProgram() {
   session_.BeginProgram();
 }
 
-// From the start to the end that the person brings about.
+// One run of the program, up to the end that the person brings about.
 void WindowChaos::PlayProgram() {
   SetUpProgram();
   try {
@@ -104,8 +104,8 @@ void WindowChaos::Act() {
   isActing_ = true;
   session_.OnChance(platform_->Depth());
   isActing_ = false;
-  session_.Require(Table.Changes == changes, "the toolkit alone changes nothing in the model");
-  session_.Require(!hasLoopOfItsOwn_, "the toolkit runs no loop that the game would wait for");
+  session_.Require(Table.Changes == changes, "Qt alone changes nothing in the model");
+  session_.Require(!hasLoopOfItsOwn_, "Qt runs no event loop of its own");
 }
 
 void WindowChaos::CheckWhatIsShown() {
@@ -123,7 +123,7 @@ bool WindowChaos::Do(const Deed& deed) {
   return isTaken;
 }
 
-// The alarm rings a minute after the last hand dealt or scored or program begun.
+// The alarm rings if for a minute no hand has been dealt or scored and no program started.
 void WindowChaos::LookForHang() {
   constexpr unsigned secondsOfPatience = 60;
   const HandWatch& watch = session_.watch;

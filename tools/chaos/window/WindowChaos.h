@@ -1,4 +1,5 @@
-// Programs at the real window, one after the other, with a person who does anything at any time.
+// Runs of the program at the real window, one after the other, with a person who may do anything at
+// any time.
 #pragma once
 
 #include <optional>
@@ -13,8 +14,8 @@
 
 namespace Parlino {
 
-// The toolkit's widgets have timers of their own, which know no virtual time: without them a run
-// repeats.
+// Qt's widgets have timers of their own, which do not follow virtual time; without them a run can
+// be repeated.
 class TimerStopper : public QObject {
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override {
@@ -26,10 +27,10 @@ class WindowChaos {
  public:
   WindowChaos(int hands, std::uint64_t seed);
 
-  // Plays until so many hands have been scored; the exit status, 1 for a broken rule, which has
-  // then been told.
+  // Plays until so many hands have been scored. Returns the exit status: 1 if a rule was broken,
+  // which has then been reported.
   int Play();
-  // Tells what has happened last.
+  // Reports the rule and the last events.
   void Tell(const std::string& rule) const;
 
  private:
@@ -52,7 +53,7 @@ class WindowChaos {
   DiskTrouble trouble_;
   std::optional<ChaosPlatform> platform_;
   std::optional<TableWatch> watch_;
-  int calmness_ = 1;  // deeds for each prank, from program to program another number
+  int calmness_ = 1;  // deeds for each prank; chosen anew for each program
   int progress_ = 0;
   bool isActing_ = false;
   bool hasLoopOfItsOwn_ = false;

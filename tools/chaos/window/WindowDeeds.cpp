@@ -76,7 +76,7 @@ bool WindowDeeds::Answer(int answer) {
 }
 
 bool WindowDeeds::AnswerBox(QDialog& box) {
-  session_.AddToNote("no, the box");
+  session_.AddToNote("instead, the box that is open");
   const auto buttons = box.findChildren<QAbstractButton*>();
   switch (session_.person.NextBelow(8)) {
     case 0:
@@ -125,7 +125,7 @@ bool WindowDeeds::ChooseMenu(int item) {
   return isSeen;
 }
 
-// Opens the menus above the entry, one after the other.
+// First opens the menus that lead to the entry, one after the other.
 void WindowDeeds::ClickEntry(QAction& entry, QWidget& place) {
   auto* menu = qobject_cast<QMenu*>(&place);
   if (menu == nullptr) {

@@ -1,5 +1,5 @@
-// What a person can do to the program, done at its windows: each deed in one of the ways the window
-// offers for it.
+// What a person can do to the program, done at its windows: each deed in one of the ways that the
+// window offers.
 #pragma once
 
 #include "tools/chaos/window/Fingers.h"
@@ -13,8 +13,8 @@ class WindowDeeds {
  public:
   WindowDeeds(ChaosSession& session, Fingers& fingers) : session_(session), fingers_(fingers) {}
 
-  // Does the deed, or something at the box that stands before the table; whether the control was on
-  // the screen.
+  // Does the deed, or something to a box that is in front of the table. Returns whether the control
+  // was on the screen.
   bool Do(const Deed& deed);
 
  private:

@@ -83,7 +83,7 @@ std::string BrokenWindowRule(int boxesOpen) {
       {"the message dialog shows its model", DialogIsAsInModel},
       {"the help window is there as in the model", HelpIsAsInModel},
       {"the about window is there as in the model", AboutIsAsInModel},
-      {"one modal window at the most takes the input", OneWindowTakesInputAtMost},
+      {"at most one modal window takes input", OneWindowTakesInputAtMost},
   };
   for (const auto& rule : rules)
     if (!rule.holds()) return rule.name;
