@@ -13,7 +13,7 @@ bool Fire(TableEvents::Handler handler) {
   return true;
 }
 
-bool RaiseOn(const Control& control, TableEvents::IndexHandler handler, int index) {
+bool FireOn(const Control& control, TableEvents::IndexHandler handler, int index) {
   if (!control.Visible || !TableTakesInput()) return false;
   handler(ToInteger(index));
   return true;
@@ -24,7 +24,7 @@ bool TakesAnswer(int button) {
 }
 
 // The message dialog blocks the help and the about window as it does the table.
-bool RaiseIn(bool isWindowOpen, void (*handler)()) {
+bool FireIn(bool isWindowOpen, void (*handler)()) {
   if (!isWindowOpen || !TableTakesInput()) return false;
   handler();
   return true;
@@ -37,15 +37,15 @@ bool TableTakesInput() {
 }
 
 bool ClickCard(int card) {
-  return RaiseOn(Table.Cds[card], Events.Cds_Click, card);
+  return FireOn(Table.Cds[card], Events.Cds_Click, card);
 }
 
 bool HoverCard(int card) {
-  return RaiseOn(Table.Cds[card], Events.Cds_MouseMove, card);
+  return FireOn(Table.Cds[card], Events.Cds_MouseMove, card);
 }
 
 bool ClickBid(int tricks) {
-  return Table.LblBids[tricks].Visible && RaiseOn(Table.FramBids, Events.LblBids_Click, tricks);
+  return Table.LblBids[tricks].Visible && FireOn(Table.FramBids, Events.LblBids_Click, tricks);
 }
 
 bool ClickDontShow() {
@@ -73,15 +73,15 @@ bool ClickAnswer(int button) {
 }
 
 bool CloseHelp() {
-  return RaiseIn(frmHelp.Visible, btnClose_Click);
+  return FireIn(frmHelp.Visible, btnClose_Click);
 }
 
 bool CloseAbout() {
-  return RaiseIn(frmAbout.Loaded, cmdOK_Click);
+  return FireIn(frmAbout.Loaded, cmdOK_Click);
 }
 
 bool ClickSysInfo() {
-  return RaiseIn(frmAbout.Loaded, cmdSysInfo_Click);
+  return FireIn(frmAbout.Loaded, cmdSysInfo_Click);
 }
 
 }  // namespace Parlino
