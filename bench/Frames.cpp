@@ -6,6 +6,8 @@
 #include <cmath>
 #include <cstdio>
 #include <functional>
+#include <optional>
+#include <utility>
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -18,33 +20,16 @@
 #include "headless/FirstFiles.h"
 #include "table/TableView.h"
 #include "table/window/QtPlatform.h"
+#include "table/window/parts/PictureView.h"
 #include "tools/demonstration/Demonstrator.h"
 
 namespace {
 
 struct Paintings {
   int count = 0;
+  int ofMovingCards = 0;
   double totalMs = 0;
   double longestMs = 0;
-};
-
-// Frames with a card on its way, and frames of the display that passed between two of them.
-struct Frames {
-  int drawn = 0;
-  int dropped = 0;
-  bool isGliding = false;
-  QElapsedTimer sinceLast;
-
-  void Count(bool goesOn, double frameMs) {
-    if (isGliding) {
-      ++drawn;
-      constexpr double nsInMs = 1e6;
-      const double passed = static_cast<double>(sinceLast.nsecsElapsed()) / nsInMs / frameMs;
-      dropped += std::max(0, static_cast<int>(std::lround(passed)) - 1);
-    }
-    isGliding = goesOn;
-    sinceLast.restart();
-  }
 };
 
 // Qt paints the window in response to one event, which is watched here.
@@ -55,6 +40,8 @@ class WatchedApplication : public QApplication {
   std::function<void()> afterPainting = [] {};
 
   bool notify(QObject* receiver, QEvent* event) override {
+    if (event->type() == QEvent::Move && dynamic_cast<Parlino::PictureView*>(receiver) != nullptr)
+      hasCardMoved_ = true;
     if (event->type() != QEvent::UpdateRequest) return QApplication::notify(receiver, event);
     QElapsedTimer clock;
     clock.start();
@@ -62,18 +49,51 @@ class WatchedApplication : public QApplication {
     constexpr double nsInMs = 1e6;
     const double ms = static_cast<double>(clock.nsecsElapsed()) / nsInMs;
     ++paintings.count;
+    if (std::exchange(hasCardMoved_, false)) ++paintings.ofMovingCards;
     paintings.totalMs += ms;
     paintings.longestMs = std::max(paintings.longestMs, ms);
     afterPainting();
     return done;
   }
+
+ private:
+  bool hasCardMoved_ = false;
 };
 
-void Print(const char* what, const Frames& frames, const Paintings& paintings) {
+// While cards are on their way, every wait has a time at which the next frame is due. When that has
+// moved on by more than one frame, those between have been dropped.
+class WatchedPlatform : public Parlino::QtPlatform {
+ public:
+  using QtPlatform::QtPlatform;
+  int dropped = 0;
+
+ protected:
+  void WaitForQt(std::uint32_t atMostMs) override {
+    const std::uint32_t now = Ticks();
+    const std::uint32_t toNextFrame = Motion().MsToNextFrame(now);
+    if (toNextFrame == Parlino::Forever)
+      due_.reset();
+    else
+      Count(now + toNextFrame);
+    QtPlatform::WaitForQt(atMostMs);
+  }
+
+ private:
+  void Count(std::uint32_t due) {
+    if (due_ && due != *due_)
+      dropped += static_cast<int>(std::lround((due - *due_) / frameMs_)) - 1;
+    due_ = due;
+  }
+
+  std::optional<std::uint32_t> due_;
+  double frameMs_ = Parlino::MsBetweenFrames(*QGuiApplication::primaryScreen());
+};
+
+void Print(const char* what, const WatchedPlatform& platform, const Paintings& paintings) {
   std::printf(
       "%s: %d frames drawn, %d dropped; painted %d times, %.1f ms on average, %.1f at most\n", what,
-      frames.drawn, frames.dropped, paintings.count, paintings.totalMs / paintings.count,
-      paintings.longestMs);
+      paintings.ofMovingCards, platform.dropped, paintings.count,
+      paintings.totalMs / paintings.count, paintings.longestMs);
 }
 
 }  // namespace
@@ -82,22 +102,18 @@ int main(int count, char* arguments[]) {
   constexpr std::uint64_t seed = 5;
   WatchedApplication application(count, arguments);
   const QTemporaryDir folder;
-  Parlino::QtPlatform platform(folder.path().toStdString());
+  WatchedPlatform platform(folder.path().toStdString());
   Parlino::SetUpGame(platform);
   Parlino::WriteFirstRecords();
   Parlino::DealGenerator.Seed(seed);
   bool isDealt = false;
-  Frames frames;
-  const double frameMs = 1000 / application.primaryScreen()->refreshRate();
   application.afterPainting = [&] {
-    const auto toNextFrame = platform.Motion().MsToNextFrame(platform.Ticks());
-    frames.Count(toNextFrame != Parlino::Forever, frameMs);
     if (isDealt || !Parlino::Table.FramBids.Visible) return;
     isDealt = true;
-    Print("deal", frames, application.paintings);
+    Print("deal", platform, application.paintings);
   };
   const Parlino::Demonstrator player({});
   const int status = Parlino::RunGame();
-  Print("hand", frames, application.paintings);
+  Print("hand", platform, application.paintings);
   return status;
 }

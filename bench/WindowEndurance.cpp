@@ -84,7 +84,7 @@ class Person {
       AnswerBox(*box);
     else if (MFormDeluxe.Visible)
       AnswerMessage();
-    else if (!HandIsUnderWay())
+    else if (!HandInProgress)
       PressKey(Qt::Key_F2);
     else if (Table.FramBids.Visible)
       DoErrand();

@@ -28,18 +28,7 @@ void DrawCardFor(Integer seat) {
   MoveDealtCard(card, seat);
 }
 
-void DealTo(Integer seat) {
-  switch (seat) {
-    case Player:
-      return DealToPlayer();
-    case West:
-      return DealToWest();
-    case North:
-      return DealToNorth();
-    default:
-      return DealToEast();
-  }
-}
+constexpr void (*DealTo[SeatsAtTable])() = {DealToPlayer, DealToWest, DealToNorth, DealToEast};
 
 }  // namespace
 
@@ -62,7 +51,7 @@ void DealCards() {
     StartSound(ShuffleSound);
     const Integer dealer = Dealer;
     for (int round = 1; round <= CardsInSuit; ++round)
-      for (int place = 1; place <= SeatsAtTable; ++place) DealTo(SeatAfter(dealer, place));
+      for (int place = 1; place <= SeatsAtTable; ++place) DealTo[SeatAfter(dealer, place)]();
     DisplayTrumps();
   });
 }

@@ -52,7 +52,7 @@ void CollectBid(Integer seat) {
   else
     MakeRobotBid(seat);
   SetCaption(Table.LblName[seat], {NameOf(seat), " bids ", Bids[seat]});
-  SetCaption(*ControlsOf(seat).bid, {Bids[seat]});
+  SetCaption(CountsInFrame[seat].bid, {Bids[seat]});
   StartSound(RingSound);
   WaitMs();
 }
@@ -94,7 +94,7 @@ void MnuNew_Click() {
 }
 
 void DealNewRound() {
-  if (HandIsUnderWay()) throw HandAbandoned{};
+  if (HandInProgress) throw HandAbandoned{};
   const HandMark mark;
   bool handWanted = true;
   while (handWanted) {
@@ -124,9 +124,10 @@ void GetDealer() {
 }
 
 void ClearTable() {
-  for (Label* counter : Counters) SetCaption(*counter, {0});
+  for (const auto& [bid, tricks] : CountsInFrame)
+    for (Label* count : {&bid, &tricks}) SetCaption(*count, {0});
   for (Integer seat = Player; seat <= East; ++seat)
-    for (Control& back : *ControlsOf(seat).pile) Hide(back);
+    for (Control& back : *PileOf[seat]) Hide(back);
   SetCaption(Table.LblInfo, {});
   ClearLines(Table.LstCardsPlayed);
   TrickNumber = 0;

@@ -17,7 +17,7 @@ constexpr std::string_view TrickSeparator = "===================================
 void CountTrick() {
   const Integer winner = TrickWinner;
   TricksWon[winner] = ToInteger(TricksWon[winner] + 1);
-  SetCaption(*ControlsOf(winner).tricks, {TricksWon[winner]});
+  SetCaption(CountsInFrame[winner].tricks, {TricksWon[winner]});
   SetCaption(Table.LblInfo, {NameOf(winner), " won this trick and will now lead a card"});
   Leader = winner;
   SetCaption(Table.LblPNMade, {OurTricks()});

@@ -1,8 +1,8 @@
 #include "engine/TrickPlay.h"
 
 #include "engine/state/ErrorReport.h"
+#include "engine/state/LedSuitQuery.h"
 #include "engine/state/Questions.h"
-#include "engine/state/TrickQueries.h"
 #include "robots/Choices.h"
 #include "table/CardDisplay.h"
 
@@ -101,9 +101,10 @@ void PlayCard(Integer seat, Integer card) {
 }
 
 void TakeRobotsTurn(int position, Integer seat) {
-  const Choice& choice = ChoiceAt(position);
-  ReportErrors(choice.procedure, [position, seat, &choice] {
-    const Integer card = choice.card(seat);
+  static constexpr std::string_view procedures[] = {"PlayFirstCard", "PlaySecondCard",
+                                                    "PlayThirdCard", "PlayFourthCard"};
+  ReportErrors(procedures[position - 1], [position, seat] {
+    const Integer card = ChooseRobotsCard(position, seat);
     RecordInTrick(position, seat, card);
     PlayCard(seat, card);
   });

@@ -2,7 +2,7 @@
 
 #include "engine/state/ErrorReport.h"
 #include "engine/state/GameState.h"
-#include "engine/state/Text.h"
+#include "engine/state/JoinText.h"
 #include "persistence/Records.h"
 #include "platform/Platform.h"
 

@@ -3,6 +3,8 @@
 #include <cerrno>
 #include <charconv>
 
+#include "engine/state/JoinText.h"
+
 namespace Parlino {
 namespace {
 
@@ -56,7 +58,7 @@ RecordReader::RecordReader(std::string_view record) : rest_(OnlyLine(record)) {
 // text.
 std::string_view RecordReader::NextField() {
   ++fieldsTaken_;
-  if (atEnd_) RaiseMalformed("field " + std::to_string(fieldsTaken_) + " is missing");
+  if (atEnd_) RaiseMalformed(JoinText({"field ", fieldsTaken_, " is missing"}));
   SkipBlanks(rest_);
   std::size_t searchFrom = 0;
   if (rest_.starts_with('"')) {
@@ -79,7 +81,7 @@ std::string RecordReader::TakeText() {
     field.remove_suffix(1);
   }
   if (field.find('"') != std::string_view::npos)
-    RaiseMalformed("field " + std::to_string(fieldsTaken_) + " has a stray double quote");
+    RaiseMalformed(JoinText({"field ", fieldsTaken_, " has a stray double quote"}));
   return KeepStorable(field);
 }
 
@@ -88,7 +90,7 @@ Integer RecordReader::TakeInteger() {
   Integer value = 0;
   const auto [end, error] = std::from_chars(field.data(), field.data() + field.size(), value);
   if (error != std::errc() || end != field.data() + field.size())
-    RaiseMalformed("field " + std::to_string(fieldsTaken_) + " is not a whole number of 16 bits");
+    RaiseMalformed(JoinText({"field ", fieldsTaken_, " is not a whole number of 16 bits"}));
   return value;
 }
 
@@ -96,11 +98,11 @@ Flag RecordReader::TakeFlag() {
   const std::string_view field = NextField();
   if (field == "#TRUE#") return True;
   if (field == "#FALSE#") return False;
-  RaiseMalformed("field " + std::to_string(fieldsTaken_) + " is neither #TRUE# nor #FALSE#");
+  RaiseMalformed(JoinText({"field ", fieldsTaken_, " is neither #TRUE# nor #FALSE#"}));
 }
 
 void RecordReader::ExpectEnd() const {
-  if (!atEnd_) RaiseMalformed("it has more than " + std::to_string(fieldsTaken_) + " fields");
+  if (!atEnd_) RaiseMalformed(JoinText({"it has more than ", fieldsTaken_, " fields"}));
 }
 
 void RecordWriter::Separate() {

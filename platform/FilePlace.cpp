@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include "engine/state/Errors.h"
+#include "engine/state/JoinText.h"
 
 namespace Parlino {
 namespace {
@@ -47,11 +48,8 @@ mode_t UnwantedPermissions() {
 }  // namespace
 
 void RaiseSystemError(std::string_view fileName, std::string_view action, int number) {
-  throw GameError(number, std::string(fileName)
-                              .append(" cannot be ")
-                              .append(action)
-                              .append(": ")
-                              .append(std::generic_category().message(number)));
+  throw GameError(number, JoinText({fileName, " cannot be ", action, ": ",
+                                    std::generic_category().message(number)}));
 }
 
 void ExpectFile(std::string_view fileName, std::string_view action, const struct stat& entry) {

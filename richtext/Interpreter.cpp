@@ -13,7 +13,8 @@ bool Interpreter::Take(const Token& token) {
     case TokenKind::End:
       return false;
     case TokenKind::OpenGroup:
-      return OpenGroup();
+      OpenGroup();
+      return true;
     case TokenKind::CloseGroup:
       return CloseGroup();
     default:
@@ -42,7 +43,7 @@ Document Interpreter::Finish() {
   return builder_.Take(state_.Lines);
 }
 
-bool Interpreter::OpenGroup() {
+void Interpreter::OpenGroup() {
   PutBroken();
   isOptional_ = false;
   fallbackLeft_ = 0;
@@ -50,7 +51,6 @@ bool Interpreter::OpenGroup() {
     outerStates_.push_back(state_);
   else
     ++deeperGroups_;
-  return true;
 }
 
 // The outermost state is kept: it formats a last paragraph that is never ended.

@@ -28,7 +28,7 @@ class Interpreter {
     int FallbackLength = 1;
   };
 
-  bool OpenGroup();
+  void OpenGroup();
   bool CloseGroup();
   void TakeWord(const Token& token);
   void ObeyWord(const ControlWord& word, std::optional<int> number);

@@ -12,7 +12,7 @@ inline constexpr std::size_t MostCharacters = 2'000'000;
 inline constexpr std::size_t MostRuns = 200'000;
 inline constexpr std::size_t MostParagraphs = 50'000;  // including those in cells
 
-// A paragraph that exceeds one of these continues in a new one: toolkits take time proportional to
+// A paragraph that exceeds one of these continues in a new one: Qt takes time proportional to
 // the square of a paragraph's length.
 inline constexpr std::size_t MostCharactersInParagraph = 10'000;
 inline constexpr std::size_t MostRunsInParagraph = 1'000;

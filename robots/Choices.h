@@ -1,27 +1,17 @@
 // What a robot plays, wherever it sits in the trick.
 #pragma once
 
-#include <string_view>
-
-#include "engine/state/GameState.h"
 #include "robots/FourthHand.h"
 #include "robots/Lead.h"
 #include "robots/SecondAndThirdHand.h"
 
 namespace Parlino {
 
-struct Choice {
-  Integer (*card)(Integer seat);
-  std::string_view procedure;  // errors in choosing and playing it are reported under this name
-};
-
-// The choice at a position 1..4.
-inline const Choice& ChoiceAt(int position) {
-  static constexpr Choice choices[] = {{ChooseFirstCard, "PlayFirstCard"},
-                                       {ChooseSecondCard, "PlaySecondCard"},
-                                       {ChooseThirdCard, "PlayThirdCard"},
-                                       {ChooseFourthCard, "PlayFourthCard"}};
-  return choices[position - 1];
+// The card that a robot at `seat` plays at a position 1..4 of the trick.
+inline Integer ChooseRobotsCard(int position, Integer seat) {
+  constexpr Integer (*choices[])(Integer seat) = {ChooseFirstCard, ChooseSecondCard,
+                                                  ChooseThirdCard, ChooseFourthCard};
+  return choices[position - 1](seat);
 }
 
 }  // namespace Parlino

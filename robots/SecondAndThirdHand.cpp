@@ -1,7 +1,7 @@
 #include "robots/SecondAndThirdHand.h"
 
 #include "engine/state/ErrorReport.h"
-#include "engine/state/TrickQueries.h"
+#include "engine/state/LedSuitQuery.h"
 #include "robots/Hands.h"
 #include "robots/Lead.h"
 

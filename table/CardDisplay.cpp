@@ -76,7 +76,7 @@ void SlideToWinner(Integer card, Integer winner) {
   WaitMs();
   MoveTo(picture, TrickPaths[winner].second);
   PlayCardSound();
-  Control& pileCard = (*ControlsOf(winner).pile)[TricksWon[winner]];
+  Control& pileCard = (*PileOf[winner])[TricksWon[winner]];
   Show(pileCard);
   BringToFront(pileCard);
 }

@@ -1,9 +1,9 @@
 #include "table/ErrorBox.h"
 
 #include <cerrno>
-#include <string>
 
 #include "engine/state/Errors.h"
+#include "engine/state/JoinText.h"
 #include "platform/Platform.h"
 
 namespace Parlino {
@@ -11,10 +11,9 @@ namespace Parlino {
 void ShowErrorBox(std::string_view procedure, const std::exception& error) {
   const auto* known = dynamic_cast<const GameError*>(&error);
   const int number = known != nullptr ? known->Number() : EFAULT;
-  std::string text = "Unexpected error in procedure: ";
-  text.append(procedure).append("\nError #").append(std::to_string(number));
-  text.append(": ").append(error.what());
-  ThePlatform().MsgBox(text, ApplicationTitle, true);
+  ThePlatform().MsgBox(JoinText({"Unexpected error in procedure: ", procedure, "\nError #", number,
+                                 ": ", error.what()}),
+                       ApplicationTitle, true);
 }
 
 }  // namespace Parlino

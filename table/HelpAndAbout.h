@@ -13,7 +13,7 @@ inline constexpr std::string_view HelpFile = "ParlinoHelp.rtf";
 
 struct HelpWindowView {
   bool Visible = false;
-  std::string FileName;        // the full path of the document, kept for whoever inspects the box
+  std::string FileName;  // the full path of the document, which names it when the model is examined
   RichText::Document rtbHelp;  // what the text box shows
   int Showings = 0;            // each brings new text and brings the window to the front
 };

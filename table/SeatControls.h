@@ -1,29 +1,24 @@
-// The controls that each seat has, and the counters of the score frame.
+// What each seat has on the table: its counts in the score frame and its trick pile.
 #pragma once
 
 #include "table/TableView.h"
 
 namespace Parlino {
 
-struct SeatControls {
-  Label* bid;
-  Label* tricks;
-  TrickPile* pile;
+struct Counts {
+  Label& bid;
+  Label& tricks;
 };
 
-inline const SeatControls& ControlsOf(int seat) {
-  static constexpr SeatControls controls[] = {
-      {&Table.LblPBid, &Table.LblPTricks, &Table.ImgBackP},
-      {&Table.LblWBid, &Table.LblWTricks, &Table.ImgBackWest},
-      {&Table.LblNBid, &Table.LblNTricks, &Table.ImgBackNorth},
-      {&Table.LblEBid, &Table.LblETricks, &Table.ImgBackEast}};
-  return controls[seat];
-}
+// A row of the score frame for each seat, then one for each team.
+inline constexpr Counts CountsInFrame[] = {
+    {Table.LblPBid, Table.LblPTricks}, {Table.LblWBid, Table.LblWTricks},
+    {Table.LblNBid, Table.LblNTricks}, {Table.LblEBid, Table.LblETricks},
+    {Table.LblPNBid, Table.LblPNMade}, {Table.LblWEBid, Table.LblWEMade}};
+inline constexpr const Counts& OurCounts = CountsInFrame[SeatsAtTable];
+inline constexpr const Counts& TheirCounts = CountsInFrame[SeatsAtTable + 1];
 
-// Bids and tricks of the seats and of the teams.
-inline constexpr Label* Counters[] = {&Table.LblPBid,    &Table.LblWBid,    &Table.LblNBid,
-                                      &Table.LblEBid,    &Table.LblPTricks, &Table.LblWTricks,
-                                      &Table.LblNTricks, &Table.LblETricks, &Table.LblPNBid,
-                                      &Table.LblWEBid,   &Table.LblPNMade,  &Table.LblWEMade};
+inline constexpr TrickPile* PileOf[] = {&Table.ImgBackP, &Table.ImgBackWest, &Table.ImgBackNorth,
+                                        &Table.ImgBackEast};
 
 }  // namespace Parlino

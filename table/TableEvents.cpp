@@ -7,8 +7,8 @@
 namespace Parlino {
 namespace {
 
-bool Fire(TableEvents::Handler handler) {
-  if (!TableTakesInput() || handler == nullptr) return false;
+bool Fire(TableEvents::Handler handler, bool isReachable = true) {
+  if (!isReachable || !TableTakesInput() || handler == nullptr) return false;
   handler();
   return true;
 }
@@ -21,13 +21,6 @@ bool FireOn(const Control& control, TableEvents::IndexHandler handler, int index
 
 bool TakesAnswer(int button) {
   return MFormDeluxe.Visible && MFormDeluxe.Faces[button].Visible;
-}
-
-// The message dialog blocks the help and the about window as it does the table.
-bool FireIn(bool isWindowOpen, void (*handler)()) {
-  if (!isWindowOpen || !TableTakesInput()) return false;
-  handler();
-  return true;
 }
 
 }  // namespace
@@ -49,7 +42,7 @@ bool ClickBid(int tricks) {
 }
 
 bool ClickDontShow() {
-  return Table.CmdDontShow.Visible && Fire(Events.CmdDontShow_Click);
+  return Fire(Events.CmdDontShow_Click, Table.CmdDontShow.Visible);
 }
 
 bool ChooseMenu(MenuItem item) {
@@ -72,16 +65,17 @@ bool ClickAnswer(int button) {
   return true;
 }
 
+// The message dialog blocks the help and the about window as it does the table.
 bool CloseHelp() {
-  return FireIn(frmHelp.Visible, btnClose_Click);
+  return Fire(btnClose_Click, frmHelp.Visible);
 }
 
 bool CloseAbout() {
-  return FireIn(frmAbout.Loaded, cmdOK_Click);
+  return Fire(cmdOK_Click, frmAbout.Loaded);
 }
 
 bool ClickSysInfo() {
-  return FireIn(frmAbout.Loaded, cmdSysInfo_Click);
+  return Fire(cmdSysInfo_Click, frmAbout.Loaded);
 }
 
 }  // namespace Parlino

@@ -15,7 +15,7 @@ constexpr std::string_view Introduction =
     "to the Play menu and New Game to deal the cards. Happy Playing.";
 
 void OpenBiddingPanel() {
-  for (int number = 1; number <= 13; ++number) {
+  for (int number = 1; number <= TricksInHand; ++number) {
     BidButton& button = Table.LblBids[number];
     button.Visible = true;
     button.Caption = JoinText({number});
@@ -25,10 +25,11 @@ void OpenBiddingPanel() {
 
 void OpenScoreFrame() {
   Table.FramScores.Visible = true;
-  for (Label* counter : Counters) {
-    counter->Visible = true;
-    counter->Caption.assign(1, '0');
-  }
+  for (const auto& [bid, tricks] : CountsInFrame)
+    for (Label* count : {&bid, &tricks}) {
+      count->Visible = true;
+      count->Caption = "0";
+    }
 }
 
 void OpenWelcomePanel() {
@@ -39,7 +40,7 @@ void OpenWelcomePanel() {
 }
 
 void OpenStatusBar() {
-  Table.StatusBar1[1].Caption = "Target Points:-  300";
+  Table.StatusBar1[1].Caption = JoinText({"Target Points:-  ", TargetPoints});
   Table.StatusBar1[2].Caption = "Your Team Points";
   Table.StatusBar1[3].Caption = "Their Team Points:-";
   for (Label& panel : Table.StatusBar1) panel.Visible = true;
@@ -54,7 +55,7 @@ void OpenTable() {
   firstCard.Picture = PictureBackUpright;
   firstCard.Place = FirstCardPlace;
   constexpr TablePoint namePlaces[] = {{960, 8400}, {240, 2040}, {2280, 720}, {8160, 2160}};
-  for (int seat = 0; seat < 4; ++seat) {
+  for (int seat = 0; seat < SeatsAtTable; ++seat) {
     Table.LblName[seat].Visible = true;
     Table.LblName[seat].Place = namePlaces[seat];
   }
@@ -85,7 +86,7 @@ void SetToolTip(PictureBox& box, Pieces pieces) {
 }
 
 void CreateCardPictures() {
-  for (int card = 2; card <= 52; ++card) {
+  for (int card = 2; card <= CardsInPack; ++card) {
     Table.Cds[card] = Table.Cds[1];
     Table.Cds[card].Visible = false;
     NoteChange(Table.Cds[card]);

@@ -9,7 +9,8 @@
 #include <vector>
 
 #include "engine/state/Indexed.h"
-#include "engine/state/Text.h"
+#include "engine/state/GameState.h"
+#include "engine/state/JoinText.h"
 
 namespace Parlino {
 
@@ -70,18 +71,18 @@ class ListBox : public Control {
   std::vector<std::size_t> ends_;
 };
 
-using TrickPile = Indexed<Control, 1, 13>;
+using TrickPile = Indexed<Control, 1, TricksInHand>;
 
 struct TableView {
   Control FrmMain;  // the table window itself
-  Indexed<PictureBox, 1, 52> Cds;
+  Indexed<PictureBox, 1, CardsInPack> Cds;
   TrickPile ImgBackP, ImgBackWest, ImgBackNorth, ImgBackEast;
-  Indexed<Label, 0, 3> LblName;
+  Indexed<Label, Player, East> LblName;
   Label LblInfo, LblTrumps;
   PictureBox imgtrumps;
   Control Shape1;
   Control FramBids, FramScores;
-  Indexed<BidButton, 1, 13> LblBids;
+  Indexed<BidButton, 1, TricksInHand> LblBids;
   Label LblPBid, LblWBid, LblNBid, LblEBid, LblPNBid, LblWEBid;
   Label LblPTricks, LblWTricks, LblNTricks, LblETricks, LblPNMade, LblWEMade;
   ListBox LstCardsPlayed;

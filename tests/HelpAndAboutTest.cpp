@@ -1,4 +1,4 @@
-// The help and the about window without a toolkit, and the way to the system-information tool.
+// The help and the about window without a window, and the way to the system-information tool.
 #include <algorithm>
 #include <gtest/gtest.h>
 

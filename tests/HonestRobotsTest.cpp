@@ -66,7 +66,7 @@ class Watcher {
     else if (Table.FramBids.Visible)
       ClickBid(Check("bid", Player, GetBid(Player), [] { return GetBid(Player); }));
     else if (PlayerTurn != False)
-      ClickCard(CheckCard(HumansPosition(), Player, ChoiceAt(HumansPosition()).card(Player)));
+      ClickCard(CheckCard(HumansPosition(), Player, ChooseRobotsCard(HumansPosition(), Player)));
     else
       ChooseMenu(MenuItem::MnuNew);
   }
@@ -88,7 +88,7 @@ class Watcher {
 
   Integer CheckCard(int position, Integer seat, Integer card) {
     return Check(JoinText({"position ", position}), seat, card,
-                 [position, seat] { return ChoiceAt(position).card(seat); });
+                 [position, seat] { return ChooseRobotsCard(position, seat); });
   }
 
   template <class Choose>

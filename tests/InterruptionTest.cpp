@@ -92,7 +92,7 @@ class InterruptedHand {
     const std::string where = std::string(interruption_.name) + " at " + std::to_string(moment_);
     EXPECT_FALSE(Recorded(game_.platform, "critical box")) << where;
     EXPECT_LE(game_.platform.deepest, 4) << where;
-    EXPECT_FALSE(HandIsUnderWay()) << where;
+    EXPECT_FALSE(HandInProgress) << where;
     EXPECT_FALSE(Table.FrmMain.Visible) << where;
     EXPECT_EQ(handEnded_, !interruption_.endsProgram) << where;
     EXPECT_EQ(shuffles_, interruption_.beginsNewHand ? 2 : 1) << where;
@@ -107,7 +107,7 @@ class InterruptedHand {
     if (Pack[1].Suit == 0 || chances_ < 0) return;
     CountShuffles();
     ASSERT_EQ(BrokenTableRule(), "") << interruption_.name << " at " << moment_;
-    if (HandIsUnderWay() && !MFormDeluxe.Visible && ++chances_ == moment_) {
+    if (HandInProgress && !MFormDeluxe.Visible && ++chances_ == moment_) {
       raised_ = true;
       interruption_.raise();
     }
@@ -151,7 +151,7 @@ TEST(Interruption, AThousandNewGamesInARowDoNotNest) {
   int newGames = 0;
   PlainPlayer player(1);
   game.platform.script = [&](std::uint32_t atMostMs) {
-    if (HandIsUnderWay() && newGames < 1000 && game.platform.ticks % 7 != 0) {
+    if (HandInProgress && newGames < 1000 && game.platform.ticks % 7 != 0) {
       ++newGames;
       ChooseMenu(MenuItem::MnuNew);
     }

@@ -99,7 +99,7 @@ TEST(RobotPlay, PlaysTheGoldenPositions) {
   const HeadlessGame game;
   for (const Position& position : positions) {
     SetUpPosition(position, North, Player);
-    const Integer card = ChoiceAt(CardsIn(position.trick) + 1).card(North);
+    const Integer card = ChooseRobotsCard(CardsIn(position.trick) + 1, North);
     EXPECT_EQ(CardText(card), position.expected)
         << position.why << ": trumps " << position.trumps << ", trick " << position.trick
         << ", hand " << position.hand;
@@ -112,7 +112,7 @@ TEST(RobotPlay, DoesNotDependOnTheSeatOrOnWhoHoldsTheHiddenCards) {
     for (Integer seat = Player; seat <= East; ++seat) {
       for (int places = 1; places <= 3; ++places) {
         SetUpPosition(position, seat, SeatAfter(seat, places));
-        const Integer card = ChoiceAt(CardsIn(position.trick) + 1).card(seat);
+        const Integer card = ChooseRobotsCard(CardsIn(position.trick) + 1, seat);
         ASSERT_EQ(CardText(card), position.expected) << position.why << ", seat " << seat;
       }
     }

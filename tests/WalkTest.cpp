@@ -3,10 +3,10 @@
 
 #include "engine/state/Questions.h"
 #include "headless/CardText.h"
-#include "support/HeadlessGame.h"
 #include "table/BidWalk.h"
 #include "table/CardDisplay.h"
 #include "table/HandWalk.h"
+#include "tests/support/HeadlessGame.h"
 
 namespace Parlino {
 namespace {

@@ -3,16 +3,17 @@
 #include <cerrno>
 #include <limits>
 
+#include "engine/state/JoinText.h"
+
 namespace Parlino {
 
 void RaiseIndexError(int index, int first, int last) {
-  throw GameError(EDOM, "Index " + std::to_string(index) + " is outside " + std::to_string(first) +
-                            " to " + std::to_string(last));
+  throw GameError(EDOM, JoinText({"Index ", index, " is outside ", first, " to ", last}));
 }
 
 Integer ToInteger(int value) {
   if (value < std::numeric_limits<Integer>::min() || value > std::numeric_limits<Integer>::max())
-    throw GameError(ERANGE, "The number " + std::to_string(value) + " is too large to be kept");
+    throw GameError(ERANGE, JoinText({"The number ", value, " is too large to be kept"}));
   return static_cast<Integer>(value);
 }
 

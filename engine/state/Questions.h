@@ -9,11 +9,6 @@ namespace Parlino {
 // The name of the seat: PlayerName for the human's.
 const std::string& NameOf(Integer seat);
 
-// Whether a hand is being dealt, bid or played.
-inline bool HandIsUnderWay() {
-  return HandInProgress;
-}
-
 // The position 1..4 at which the human plays to the trick that Leader leads.
 int HumansPosition();
 

@@ -45,11 +45,11 @@ class QtPlatform : public Platform {
   std::string ReadDocument(std::string_view fileName) override;
   void StartProgram(std::string_view path) override;
 
-  // How the cards of the table move.
+ protected:
+  // How the cards move.
   Glides& Motion() { return table_.Motion(); }
 
- protected:
-  // Lets the toolkit work while the game waits; all waiting goes through here.
+  // Lets Qt work while the game waits; all waiting goes through here.
   virtual void WaitForQt(std::uint32_t atMostMs);
 
  private:

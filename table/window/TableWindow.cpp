@@ -10,7 +10,7 @@
 
 #include "platform/Platform.h"
 #include "table/TableEvents.h"
-#include "table/window/desktop/ScrolledTable.h"
+#include "table/window/ScrolledTable.h"
 #include "table/window/desktop/WindowPlace.h"
 #include "table/window/input/PendingEvents.h"
 #include "table/window/painting/Design.h"
@@ -64,8 +64,9 @@ void TableWindow::BuildTable(KeyUse& keyUse) {
   BuildPlayedList(site);
   BuildScoreFrame(site);
   BuildStatusBar(site);
-  keys_.emplace(*table_, widgets_, keyUse, pending_);
-  mirror_.KeepInFront(keys_->Mark());
+  focus_.emplace(*table_, widgets_, keyUse);
+  keys_.emplace(*table_, *focus_, keyUse, pending_);
+  mirror_.KeepInFront(focus_->Mark());
 }
 
 void TableWindow::ShowModel(std::uint32_t now, std::uint32_t pauseMs) {

@@ -12,8 +12,8 @@
 #include "table/window/mirror/TableMirror.h"
 #include "table/window/parts/CardHints.h"
 #include "table/window/parts/TableWidgets.h"
-#include "table/window/pointing/RestingPointer.h"
-#include "table/window/pointing/TableKeys.h"
+#include "table/window/playing/RestingPointer.h"
+#include "table/window/playing/TableKeys.h"
 #include "table/window/speaking/AssistiveTools.h"
 #include "table/window/speaking/Speaker.h"
 
@@ -46,12 +46,13 @@ class TableWindow : public QWidget, public Speaker {
 
   PendingEvents& pending_;
   Glides glides_;
-  TableMirror mirror_{glides_, [this] { keys_->Follow(); }};
+  TableMirror mirror_{glides_, [this] { focus_->Follow(); }};
   TableWidgets widgets_;
   CardHints hints_{widgets_};
   QWidget* table_;
   ScrolledTable* room_;
   SpokenChanges spoken_;
+  std::optional<TableFocus> focus_;
   std::optional<TableKeys> keys_;
   RestingPointer pointer_{*this, pending_};
   bool wasPainted_ = false;

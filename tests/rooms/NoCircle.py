@@ -2,17 +2,18 @@
 import os, re, sys
 
 os.chdir(sys.argv[1])
-arrows = {}  # (room, room that it includes): one such include
+rooms, arrows = set(), {}  # (room, room that it includes): one such include
 for folder, folders, files in os.walk("."):
     folders[:] = [name for name in folders if name != "build" and name[0] != "."]
     for file in (f"{folder}/{name}"[2:] for name in files if name.endswith((".h", ".cpp"))):
+        rooms.add(room := os.path.dirname(file))
         for header in re.findall(r'^#include "(.+/.+)"', open(file).read(), re.M):
-            ends = os.path.dirname(file), os.path.dirname(header)
-            if ends[0] != ends[1]: arrows[ends] = f"{file} includes {header}"
+            if not os.path.exists(header): sys.exit(f"{file} includes {header}, which is not named from the root")
+            if (other := os.path.dirname(header)) != room: arrows[room, other] = f"{file} includes {header}"
 
-circle = dict(arrows)  # less every arrow to a room without arrows of its own, or from one without any to it
-while straight := [(a, b) for a, b in circle
-                   if b not in {c for c, _ in circle} or a not in {c for _, c in circle}]:
-    for ends in straight: del circle[ends]
+circle = dict(arrows)  # without all that leads to a room without arrows, or comes from one with none to it
+while straight := [arrow for arrow in circle
+                   if arrow[1] not in (a for a, _ in circle) or arrow[0] not in (b for _, b in circle)]:
+    for arrow in straight: del circle[arrow]
 if circle: sys.exit("Rooms in a circle:\n" + "\n".join(circle.values()))
-print(len({room for ends in arrows for room in ends}), "rooms,", len(arrows), "arrows, no circle")
+print(len(rooms), "rooms,", len(arrows), "arrows, no circle")

@@ -11,7 +11,7 @@
 #include "WindowGame.h"
 #include "table/TableEvents.h"
 #include "table/TableView.h"
-#include "table/window/desktop/ScrolledTable.h"
+#include "table/window/ScrolledTable.h"
 
 namespace Parlino {
 namespace {

@@ -67,7 +67,7 @@ void PrintTo(Moment moment, std::ostream* out) {
 bool HasCome(Moment moment) {
   switch (moment) {
     case Moment::WhileDealing:
-      return HandIsUnderWay() && TrumpSuit == -1 && Table.Cds[1].Picture != 0;
+      return HandInProgress && TrumpSuit == -1 && Table.Cds[1].Picture != 0;
     case Moment::BeforeTheBid:
       return WindowGame::Find("FramBids").isVisible();
     default:

@@ -18,6 +18,7 @@ struct SeenEnough {};
 
 class QuickPlatform : public QtPlatform {
  public:
+  using QtPlatform::Motion;
   using QtPlatform::QtPlatform;
 
   // The person at the window: called before every wait, when the table is shown as it is in the

@@ -94,7 +94,7 @@ Deed ChaosPerson::ChooseAnything() {
 Deed ChaosPerson::ChooseWanted() {
   if (MFormDeluxe.Visible) return {DeedKind::ClickAnswer, generator_.NextBelow(8) / 7};
   if (Table.FramBids.Visible) return {DeedKind::ClickBid, 1 + generator_.NextBelow(3)};
-  if (HandIsUnderWay()) return {DeedKind::ClickCard, 1 + generator_.NextBelow(CardsInPack)};
+  if (HandInProgress) return {DeedKind::ClickCard, 1 + generator_.NextBelow(CardsInPack)};
   return {DeedKind::ChooseMenu, NumberOf(Once(4) ? MenuItem::MnuLoad : MenuItem::MnuNew)};
 }
 

@@ -58,8 +58,8 @@ void HandWatch::EndProgram() {
 
 std::string_view HandWatch::Look() {
   if (!WhatIsKeptIsThere()) return "what is kept is there when the program begins again";
-  if (HandIsUnderWay() && TrumpSuit < Diamonds) isDealt_ = false;
-  if (HandIsUnderWay() && TrumpSuit >= Diamonds && !isDealt_) NoteDeal();
+  if (HandInProgress && TrumpSuit < Diamonds) isDealt_ = false;
+  if (HandInProgress && TrumpSuit >= Diamonds && !isDealt_) NoteDeal();
   if (isDealt_ && !isDealtWell_) return "thirteen cards for each seat, and what was loaded";
   if (isDealt_ && !ReadList()) return "the list tells a possible play";
   NoteScores();
@@ -162,18 +162,18 @@ void HandWatch::NoteScores() {
 }
 
 bool HandWatch::CardsAreInOnePlaceEach() const {
-  if (!isDealt_ || !HandIsUnderWay()) return true;
+  if (!isDealt_ || !HandInProgress) return true;
   for (int card = 1; card <= CardsInPack; ++card)
     if (Pack[card].Owner != (isPlayed_[card] ? NoSeat : dealtTo_[card])) return false;
   return true;
 }
 
 bool HandWatch::BidsAreKept() const {
-  return !isDealt_ || bids_.empty() || !HandIsUnderWay() || std::ranges::equal(bids_, Bids);
+  return !isDealt_ || bids_.empty() || !HandInProgress || std::ranges::equal(bids_, Bids);
 }
 
 bool HandWatch::TrickAgreesWithList() const {
-  if (!isDealt_ || !HandIsUnderWay()) return true;
+  if (!isDealt_ || !HandInProgress) return true;
   for (int position = 1; position <= static_cast<int>(trick_.size()); ++position) {
     const Integer card = trick_[static_cast<std::size_t>(position - 1)];
     if (TrickCards[position] != card || TrickSuits[position] != Pack[card].Suit) return false;
@@ -182,7 +182,7 @@ bool HandWatch::TrickAgreesWithList() const {
 }
 
 bool HandWatch::TricksAreTheReferees() const {
-  return !isDealt_ || !HandIsUnderWay() || std::ranges::equal(TricksWon, tricksWon_);
+  return !isDealt_ || !HandInProgress || std::ranges::equal(TricksWon, tricksWon_);
 }
 
 bool HandWatch::TurnIsTheHumans() const {

@@ -17,7 +17,7 @@ int CardsOfSeat(Integer seat) {
 }
 
 bool HandsAreEven() {
-  if (!HandIsUnderWay()) return true;
+  if (!HandInProgress) return true;
   int fewest = CardsInSuit;
   int most = 0;
   for (Integer seat = Player; seat <= East; ++seat) {
@@ -106,11 +106,11 @@ bool RobotsCardsShowBacks() {
 
 bool BiddingIsOpenOnlyForABid() {
   return !Table.FramBids.Visible ||
-         (HandIsUnderWay() && TrumpSuit >= Diamonds && TrickNumber == 0 && Bids[Player] == 0);
+         (HandInProgress && TrumpSuit >= Diamonds && TrickNumber == 0 && Bids[Player] == 0);
 }
 
 bool TurnIsOpenOnlyInAHand() {
-  return PlayerTurn == False || HandIsUnderWay();
+  return PlayerTurn == False || HandInProgress;
 }
 
 }  // namespace

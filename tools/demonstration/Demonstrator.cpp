@@ -73,7 +73,7 @@ void Demonstrator::timerEvent(QTimerEvent*) {
 void Demonstrator::Act() {
   if (MFormDeluxe.Visible) return LeaveWithScore();
   TakePicture("1-welcome");
-  if (!HandIsUnderWay()) return PressKey(FindWidget("FrmMain"), Qt::Key_F2);
+  if (!HandInProgress) return PressKey(FindWidget("FrmMain"), Qt::Key_F2);
   if (TrumpSuit >= Diamonds) TakePicture("2-dealt");
   if (Table.FramBids.Visible) {
     TakePicture("3-bidding");
@@ -81,7 +81,7 @@ void Demonstrator::Act() {
   }
   if (PlayerTurn == False) return;
   if (TrickNumber == TrickOfPicture) TakePicture("4-middle");
-  Click(FindWidget("Cds", ChoiceAt(HumansPosition()).card(Player)), SpotOnCard);
+  Click(FindWidget("Cds", ChooseRobotsCard(HumansPosition(), Player)), SpotOnCard);
 }
 
 void Demonstrator::LeaveWithScore() {

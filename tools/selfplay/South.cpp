@@ -60,7 +60,7 @@ int South::ChooseBid() {
 }
 
 int South::ChooseCard() {
-  if (kind_ == SouthKind::Robot) return ChoiceAt(HumansPosition()).card(Player);
+  if (kind_ == SouthKind::Robot) return ChooseRobotsCard(HumansPosition(), Player);
   const CardSet cards = Playable(HandOnTable());
   auto choice = cards.begin();
   for (int skipped = generator_.NextBelow(cards.Count()); skipped > 0; --skipped) ++choice;

@@ -3,7 +3,6 @@
 #include <QPainter>
 
 #include "table/TableEvents.h"
-#include "table/window/dialog/MessageWindow.h"
 #include "table/window/input/PendingEvents.h"
 #include "table/window/painting/Design.h"
 

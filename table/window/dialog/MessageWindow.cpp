@@ -30,11 +30,6 @@ LabelLook TextLook(int mostLines) {
 
 }  // namespace
 
-QFont MessageFont() {
-  constexpr double points = 9.75;
-  return TimesBold(points);
-}
-
 AnswerFace::AnswerFace(int answer, PendingEvents& pending, QWidget* parent)
     : QWidget(parent),
       caption_(Named(new AnswerCaption(answer, pending, this), MemberName("Label1", answer))) {

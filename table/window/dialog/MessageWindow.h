@@ -54,7 +54,4 @@ class MessageWindow : public QWidget, public Speaker {
   int showings_ = 0;  // as last shown
 };
 
-// The font of everything in the dialog.
-QFont MessageFont();
-
 }  // namespace Parlino

@@ -35,8 +35,7 @@ QTextLength PartOfWidth(double part) {
 }
 
 QTextTableFormat TableFormat(const Table& table, double zoom, const std::vector<int>& edges) {
-  const auto leftmost = std::ranges::min_element(table.Rows, {}, &Row::LeftEdge);
-  const int left = std::min(leftmost->LeftEdge, edges.front() - CloseEdges);
+  const int left = std::ranges::min_element(table.Rows, {}, &Row::LeftEdge)->LeftEdge;
   const double width = edges.back() - left;
   QList<QTextLength> columns;
   int before = left;

@@ -11,7 +11,7 @@
 namespace Parlino {
 namespace {
 
-// A card that takes longer looks tired; after it the pause just goes on.
+// A card that takes longer looks slow; it rests for what is left of the pause.
 constexpr double LongestGlideMs = 300;
 // While the game waits for the person there is no pause to fit into.
 constexpr double GlideMsBeforeTurn = 150;
@@ -22,6 +22,8 @@ double EaseOut(double progress) {
   return 1 - rest * rest;
 }
 
+}  // namespace
+
 double MsBetweenFrames(const QScreen& screen) {
   constexpr double msInSecond = 1000;
   constexpr double slowest = 24;  // virtual displays report a rate of next to nothing
@@ -29,8 +31,6 @@ double MsBetweenFrames(const QScreen& screen) {
   const double rate = screen.refreshRate();
   return msInSecond / (rate >= slowest ? rate : usual);
 }
-
-}  // namespace
 
 void Glides::Allow(bool allowed) {
   areAllowed_ = allowed;

@@ -7,14 +7,18 @@
 
 #include <QPoint>
 
+class QScreen;
 class QWidget;
 
 namespace Parlino {
 
+// How long the display shows one frame.
+double MsBetweenFrames(const QScreen& screen);
+
 // Times are milliseconds of the platform's tick counter.
 class Glides {
  public:
-  // Whether cards glide at all. Those under way end where they were going.
+  // Whether cards glide at all. If not, those that are moving arrive at once.
   void Allow(bool allowed);
 
   // The widget leaves for `goal` and is there before `pauseMs` milliseconds have passed.

@@ -33,7 +33,7 @@ void TableMirror::ShowControl(Tie& tie, const Pause& pause) {
   toFront_.push_back(&tie);
 }
 
-// Only what was to be seen before and still is can be seen on its way.
+// Only a widget that was visible before and still is can be seen moving.
 void TableMirror::ShowPlace(const Tie& tie, const Pause& pause) {
   glides_.Cut(tie.widget);
   const QPoint place = ToPixels(tie.control->Place);

@@ -20,24 +20,23 @@ enum class Placing { Fixed, Jumps, Glides };
 
 class TableMirror {
  public:
-  // `moveFocus` is called at every showing, when all that appears can be seen and nothing has been
-  // hidden yet: so the focus need never fall from a widget that goes.
+  // `moveFocus` is called at every showing, after widgets have been shown and before any are
+  // hidden: a widget that has the focus can then give it away before Qt takes it.
   TableMirror(Glides& glides, std::function<void()> moveFocus)
       : glides_(glides), moveFocus_(std::move(moveFocus)) {}
 
-  // Ties a widget to its control. `show` puts the control's own properties into it; being visible,
-  // place and layer are the mirror's. Widgets start in the order of their creation, the first at
-  // the back.
+  // Ties a widget to its control. `show` puts the control's own properties into it; the mirror
+  // itself takes care of visibility, place and layer. Widgets start in the order of their creation,
+  // the first at the back.
   void Link(
       const Control& control, QWidget* widget, std::function<void()> show = [] {},
       Placing placing = Placing::Fixed);
 
-  // Keeps the widget in front of all that is brought to the front after it, and behind those for
-  // which this is asked later.
+  // Keeps the widget in front of all others, except those for which this is called later.
   void KeepInFront(QWidget* widget) { front_.push_back(widget); }
 
   // Shows every control that has changed since the last call. `now` is a tick of the platform, and
-  // `pauseMs` says how long the game is about to pause: so long a card may be on its way.
+  // `pauseMs` says how long the game is about to pause, and so how long a card may take.
   void ShowChanges(std::uint32_t now, std::uint32_t pauseMs);
 
  private:

@@ -82,4 +82,9 @@ inline QFont WindowFont() {
   return TimesBold(11.25);
 }
 
+// The font of everything in the message dialog.
+inline QFont MessageFont() {
+  return TimesBold(9.75);
+}
+
 }  // namespace Parlino

@@ -1,4 +1,4 @@
-// The plain shapes of the table: frames with a caption in their top line, filled boxes and lines.
+// The plain shapes of the table: frames with a caption in their top line, and filled boxes.
 #pragma once
 
 #include <QColor>
@@ -27,7 +27,7 @@ class FrameBox : public QGroupBox {
   FrameLook look_;
 };
 
-// A box in one colour, with a border in another if `borderWidth` is above 0.
+// A box in one colour, with a border in another once it has been set.
 class FilledBox : public QWidget {
  public:
   FilledBox(const QColor& fill, QWidget* parent);

@@ -1,4 +1,5 @@
-// The names by which widgets are found: those of the controls that they show.
+// Widgets are named after the controls that they show, so that whoever looks at the window from
+// outside, a test for instance, finds them.
 #pragma once
 
 #include <QString>

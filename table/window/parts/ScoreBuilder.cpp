@@ -1,9 +1,10 @@
 // The score frame with its headings, names and counts.
+#include "table/SeatControls.h"
 #include "table/window/mirror/TableMirror.h"
 #include "table/window/painting/Design.h"
 #include "table/window/painting/Named.h"
-#include "table/window/painting/ScoreFrame.h"
 #include "table/window/parts/Builders.h"
+#include "table/window/speaking/ScoreFrame.h"
 
 namespace Parlino {
 namespace {
@@ -18,18 +19,17 @@ struct ScoreRow {
   const char* nameOfName;
   const char* caption;
   const char* nameOfBid;
-  const Label& bid;
   const char* nameOfTricks;
-  const Label& tricks;
+  const Counts& counts;
 };
 
 const ScoreRow ScoreRows[ScoreFrame::Rows] = {
-    {600, "LblNameScoreN", "North", "LblNBid", Table.LblNBid, "LblNTricks", Table.LblNTricks},
-    {960, "LblNameScoreP", "Player", "LblPBid", Table.LblPBid, "LblPTricks", Table.LblPTricks},
-    {1320, "LblPartnersP", "NSPartners", "LblPNBid", Table.LblPNBid, "LblPNMade", Table.LblPNMade},
-    {1680, "LblNameScoreW", "West", "LblWBid", Table.LblWBid, "LblWTricks", Table.LblWTricks},
-    {2040, "LblNameScoreE", "East", "LblEBid", Table.LblEBid, "LblETricks", Table.LblETricks},
-    {2520, "LblPartnersW", "WEPartners", "LblWEBid", Table.LblWEBid, "LblWEMade", Table.LblWEMade},
+    {600, "LblNameScoreN", "North", "LblNBid", "LblNTricks", CountsInFrame[North]},
+    {960, "LblNameScoreP", "Player", "LblPBid", "LblPTricks", CountsInFrame[Player]},
+    {1320, "LblPartnersP", "NSPartners", "LblPNBid", "LblPNMade", OurCounts},
+    {1680, "LblNameScoreW", "West", "LblWBid", "LblWTricks", CountsInFrame[West]},
+    {2040, "LblNameScoreE", "East", "LblEBid", "LblETricks", CountsInFrame[East]},
+    {2520, "LblPartnersW", "WEPartners", "LblWEBid", "LblWEMade", TheirCounts},
 };
 
 void AddHeadings(ScoreFrame& frame) {
@@ -56,8 +56,8 @@ void AddRow(ScoreFrame& frame, TableMirror& mirror, int number) {
     count->setGeometry(ToPixels(left, row.top, 495, 255));
     mirror.Link(model, count, [count, &model] { count->ShowModel(model); });
   };
-  addCount(1, row.nameOfBid, row.bid, BidLeft);
-  addCount(2, row.nameOfTricks, row.tricks, TricksLeft);
+  addCount(1, row.nameOfBid, row.counts.bid, BidLeft);
+  addCount(2, row.nameOfTricks, row.counts.tricks, TricksLeft);
 }
 
 void AddLines(QWidget* frame) {

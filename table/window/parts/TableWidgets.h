@@ -1,4 +1,4 @@
-// The widgets of the table that others than their builder work with.
+// The widgets of the table that are needed again after they have been built.
 #pragma once
 
 #include "engine/state/GameState.h"
@@ -10,7 +10,7 @@ namespace Parlino {
 class BidFace;
 class PictureView;
 
-// All of them are there once the table is built, and live as long as it.
+// All are set once the table is built, and live as long as the table.
 struct TableWidgets {
   Indexed<PictureView*, 1, CardsInPack> cards;
   Indexed<BidFace*, 1, TricksInHand> bids;

@@ -15,7 +15,7 @@ QString SeatWord(Integer seat) {
 
 // Includes the name that the seat has been given, if it differs.
 QString SeatTitle(Integer seat) {
-  const QString name = ToText(seat == Player ? PlayerName : SeatNames[seat]).simplified();
+  const QString name = ToText(NameOf(seat)).simplified();
   const QString word = SeatWord(seat);
   return name.isEmpty() || name == word ? word : word + ", " + name;
 }
@@ -54,7 +54,7 @@ Spoken SpokenTrick(Integer seat, int trick) {
 }
 
 Spoken SpokenSeat(Integer seat) {
-  if (!HandIsUnderWay()) return {.name = ToText(Table.LblName[seat].Caption).simplified()};
+  if (!HandInProgress) return {.name = ToText(Table.LblName[seat].Caption).simplified()};
   const QString bid = Bids[seat] < 1 ? "no bid yet" : QString("bid %1").arg(Bids[seat]);
   return {.name = QString("%1: %2, took %3").arg(SeatTitle(seat), bid).arg(TricksWon[seat])};
 }

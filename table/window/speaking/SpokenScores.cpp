@@ -4,7 +4,7 @@
 #include <QAccessibleTableInterface>
 #include <QAccessibleWidget>
 
-#include "table/window/painting/ScoreFrame.h"
+#include "table/window/speaking/ScoreFrame.h"
 
 namespace Parlino {
 namespace {

@@ -1,4 +1,4 @@
-#include "table/window/pointing/RestingPointer.h"
+#include "table/window/playing/RestingPointer.h"
 
 #include <utility>
 

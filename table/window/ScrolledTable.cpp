@@ -1,4 +1,4 @@
-#include "table/window/desktop/ScrolledTable.h"
+#include "table/window/ScrolledTable.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -1,4 +1,4 @@
-#include "engine/state/TrickQueries.h"
+#include "engine/state/LedSuitQuery.h"
 
 #include "engine/state/ErrorReport.h"
 #include "engine/state/Questions.h"
