@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "engine/state/ErrorReport.h"
-#include "engine/state/LedSuitQuery.h"
+#include "engine/state/Questions.h"
 #include "robots/Bidding.h"
 #include "robots/Hands.h"
 

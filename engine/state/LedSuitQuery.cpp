@@ -13,8 +13,4 @@ bool HasStartSuitQuery(Integer seat) {
   });
 }
 
-bool CardGoneQuery(Integer value, Integer suit) {
-  return ReportErrors("CardGoneQuery", [value, suit] { return HoldsCard(NoSeat, value, suit); });
-}
-
 }  // namespace Parlino

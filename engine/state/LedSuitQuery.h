@@ -1,4 +1,5 @@
-// The two questions about cards that robots ask during a trick. Both report their own errors.
+// The question about the led suit that robots ask during a trick, and the human's click as well. It
+// stands apart from the other questions because it resets the pause.
 #pragma once
 
 #include "engine/state/GameState.h"
@@ -6,9 +7,7 @@
 namespace Parlino {
 
 // Whether the seat holds a card of the led suit. If not, PauseMs is reset to DefaultPauseMs.
+// Reports its own errors.
 bool HasStartSuitQuery(Integer seat);
-
-// Whether the card of this value and suit has been played; false if there is no such card.
-bool CardGoneQuery(Integer value, Integer suit);
 
 }  // namespace Parlino

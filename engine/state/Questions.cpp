@@ -1,5 +1,7 @@
 #include "engine/state/Questions.h"
 
+#include "engine/state/ErrorReport.h"
+
 namespace Parlino {
 
 const std::string& NameOf(Integer seat) {
@@ -12,6 +14,10 @@ int HumansPosition() {
 
 bool HoldsLedSuit(Integer seat) {
   return !HandOf(seat, LedSuit).IsEmpty();
+}
+
+bool CardGoneQuery(Integer value, Integer suit) {
+  return ReportErrors("CardGoneQuery", [value, suit] { return HoldsCard(NoSeat, value, suit); });
 }
 
 bool MayPlayCard(Integer card) {

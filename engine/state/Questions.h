@@ -15,6 +15,10 @@ int HumansPosition();
 // Whether the seat holds a card of the suit that was led.
 bool HoldsLedSuit(Integer seat);
 
+// Whether the card of this value and suit has been played; false if there is no such card. Reports
+// its own errors.
+bool CardGoneQuery(Integer value, Integer suit);
+
 // Whether the human holds `card` and may play it to the trick: any card when leading or without a
 // card of the led suit, otherwise a card of the led suit.
 bool MayPlayCard(Integer card);
