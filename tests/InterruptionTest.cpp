@@ -123,7 +123,7 @@ class InterruptedHand {
   }
 
   HeadlessGame game_;
-  PlainPlayer player_{1};
+  South player_{1};
   const Interruption& interruption_;
   int moment_;
   int chances_ = 0;
@@ -149,7 +149,7 @@ TEST(Interruption, EveryCommandAtEveryMomentOfAHand) {
 TEST(Interruption, AThousandNewGamesInARowDoNotNest) {
   HeadlessGame game(22);
   int newGames = 0;
-  PlainPlayer player(1);
+  South player(1);
   game.platform.script = [&](std::uint32_t atMostMs) {
     if (HandIsUnderWay() && newGames < 1000 && game.platform.ticks % 7 != 0) {
       ++newGames;
@@ -164,7 +164,7 @@ TEST(Interruption, AThousandNewGamesInARowDoNotNest) {
 
 TEST(Interruption, AnAbandonedBidLeavesNoPanelBehind) {
   HeadlessGame game(23);
-  PlainPlayer player(1);
+  South player(1);
   bool abandoned = false;
   game.platform.script = [&](std::uint32_t atMostMs) {
     if (Table.FramBids.Visible && !abandoned) {
@@ -182,7 +182,7 @@ TEST(Interruption, AnAbandonedBidLeavesNoPanelBehind) {
 
 TEST(Interruption, AnErrorWhileNothingIsUnderWayIsReportedAndTheGameGoesOn) {
   HeadlessGame game(25);
-  PlainPlayer player(1);
+  South player(1);
   Events.MenuClick[static_cast<int>(MenuItem::MnuView)] = [] { throw GameError(EIO, "Broken"); };
   int errors = 0;
   game.platform.script = [&](std::uint32_t atMostMs) {

@@ -31,7 +31,7 @@ Outcome PlayFrom(const Start& start, std::uint64_t seed, int bid, std::string* p
   auto& files = game.platform.files;
   files["SaveGame.dat"] = JoinText({start.ours, ",", start.theirs, ",#TRUE#\r\n"});
   files["Points.dat"] = start.points + "\r\n";
-  PlainPlayer player(2, bid);
+  South player(2, bid);
   Outcome outcome;
   game.platform.onMsgBox = [&](std::string_view text) {
     EXPECT_TRUE(text.starts_with("Unexpected error in procedure: DealNewRound\nError #34")) << text;

@@ -52,7 +52,7 @@ void PlayHands(
   SetUpGame(platform);
   DealGenerator.Seed(31);
   platform.keepsRecord = true;
-  PlainPlayer player(hands);
+  South player(hands);
   platform.script = [&](std::uint32_t atMostMs) {
     look();
     player.OnEvents(atMostMs);

@@ -16,7 +16,7 @@ namespace Parlino {
 namespace {
 
 // Plays until the player leaves, looking at the invariants at every chance.
-int PlayLookingOn(HeadlessGame& game, PlainPlayer& player) {
+int PlayLookingOn(HeadlessGame& game, South& player) {
   game.platform.script = [&](std::uint32_t atMostMs) {
     if (Pack[1].Suit != 0) {
       ASSERT_EQ(BrokenTableRule(), "");
@@ -28,7 +28,7 @@ int PlayLookingOn(HeadlessGame& game, PlainPlayer& player) {
 
 TEST(WholeGame, PlaysManyHandsAndSavesOnLeaving) {
   HeadlessGame game(11);
-  PlainPlayer player(60);
+  South player(60);
   EXPECT_EQ(PlayLookingOn(game, player), 0);
   EXPECT_EQ(player.HandsScored(), 60);
   EXPECT_FALSE(Recorded(game.platform, "critical box"));
@@ -42,7 +42,7 @@ TEST(WholeGame, PlaysManyHandsAndSavesOnLeaving) {
 
 TEST(WholeGame, CallsDoNotNestOverAThousandHands) {
   HeadlessGame game(12);
-  PlainPlayer player(1000, 1);
+  South player(1000, 1);
   game.platform.keepsRecord = false;
   std::set<const void*> placesOnStack;
   game.platform.script = [&](std::uint32_t atMostMs) {
@@ -56,7 +56,7 @@ TEST(WholeGame, CallsDoNotNestOverAThousandHands) {
 
 TEST(WholeGame, DealsInTurnWithinAGameAndShowsWhatHappened) {
   HeadlessGame game(13);
-  PlainPlayer player(8);
+  South player(8);
   Integer lastDealer = -1;
   int handsInTurn = 0;
   player.onDialog = [&] {
@@ -79,7 +79,7 @@ TEST(WholeGame, DealsInTurnWithinAGameAndShowsWhatHappened) {
 
 TEST(WholeGame, BidsGoRoundFromTheSeatAfterTheDealer) {
   HeadlessGame game(17);
-  PlainPlayer player(5);
+  South player(5);
   std::vector<Integer> order;
   player.onDialog = [&] {
     EXPECT_EQ(order, (std::vector<Integer>{SeatAfter(Dealer), SeatAfter(Dealer, 2),
@@ -97,7 +97,7 @@ TEST(WholeGame, BidsGoRoundFromTheSeatAfterTheDealer) {
 TEST(WholeGame, GoesOnFromASavedGameWithWestDealing) {
   HeadlessGame game(14);
   game.platform.files["SaveGame.dat"] = "120,80,#TRUE#\r\n";
-  PlainPlayer player(1);
+  South player(1);
   Integer dealer = -1;
   int before = 0;
   player.onDialog = [&] {
@@ -127,7 +127,7 @@ TEST(WholeGame, EndsTheGameOnlyAtThreeHundredAndApart) {
     HeadlessGame game(15);
     game.platform.files["SaveGame.dat"] =
         std::to_string(example.ours) + "," + std::to_string(example.theirs) + ",#TRUE#\r\n";
-    PlainPlayer player(1, 1);
+    South player(1, 1);
     const bool over = example.picture != 3;
     player.onDialog = [&] {
       EXPECT_EQ(MFormDeluxe.Label3, example.title) << example.what;
@@ -151,12 +151,12 @@ TEST(WholeGame, EndsTheGameOnlyAtThreeHundredAndApart) {
 TEST(WholeGame, EqualTotalsGoOnHoweverHigh) {
   HeadlessGame first(16);
   first.platform.files["SaveGame.dat"] = "0,0,#TRUE#\r\n";
-  PlainPlayer firstPlayer(1);
+  South firstPlayer(1);
   PlayLookingOn(first, firstPlayer);
   const int lead = OurPoints - TheirPoints;
   HeadlessGame second(16);
   second.platform.files["SaveGame.dat"] = "1000," + std::to_string(1000 + lead) + ",#TRUE#\r\n";
-  PlainPlayer secondPlayer(1);
+  South secondPlayer(1);
   secondPlayer.onDialog = [] {
     EXPECT_EQ(OurPoints, TheirPoints);
     EXPECT_EQ(MFormDeluxe.Label3, "   Scores");
@@ -169,7 +169,7 @@ TEST(WholeGame, AScoreThatCannotBeSavedIsNotThrownAway) {
   HeadlessGame game(18);
   int dialogs = 0;
   Integer points = 0;
-  PlainPlayer player(1);
+  South player(1);
   player.onDialog = [&] {
     if (dialogs == 1) {
       EXPECT_EQ(OurPoints, points);

@@ -83,7 +83,7 @@ void Try::DoTwice(const std::function<void()>& command) {
 }
 
 void Try::PlayAndLeave(int hands) {
-  PlainPlayer south(hands);
+  South south(hands);
   south.onDialog = [&] {
     if (south.HandsScored() > 0) EndFault();
   };
