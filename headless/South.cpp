@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "engine/state/Questions.h"
-#include "platform/Platform.h"
+#include "headless/Headless.h"
 #include "robots/Bidding.h"
 #include "robots/Choices.h"
 #include "table/MessageDialog.h"
@@ -64,7 +64,12 @@ void South::OnEvents(std::uint32_t atMostMs) {
   if (MFormDeluxe.Visible)
     AnswerDialog();
   else if (!Act())
-    ChooseMenu(handsScored_ < hands_ ? MenuItem::MnuNew : MenuItem::MnuExit);
+    BeginHandOrLeave();
+}
+
+void South::BeginHandOrLeave() {
+  if (++handsBegun_ > 2 * hands_ + 10) throw ScriptHasNothingToSay{};
+  ChooseMenu(handsScored_ < hands_ ? MenuItem::MnuNew : MenuItem::MnuExit);
 }
 
 bool South::Act() {

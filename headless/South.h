@@ -12,7 +12,8 @@ namespace Parlino {
 
 class South {
  public:
-  // Begins hand after hand until `hands` of them have been scored, and then saves and leaves.
+  // Begins hand after hand until `hands` of them have been scored, and then saves and leaves. Gives
+  // up, as a script that has nothing to say, when hands come to no end.
   explicit South(int hands, int bid = 3) : chooseBid([bid] { return bid; }), hands_(hands) {}
 
   // What to bid and which card to play: the same bid each time and the first card that may be
@@ -34,9 +35,11 @@ class South {
 
  private:
   void AnswerDialog();
+  void BeginHandOrLeave();
 
   int hands_;
   int handsScored_ = 0;
+  int handsBegun_ = 0;
 };
 
 // Lets a robot decide for South.

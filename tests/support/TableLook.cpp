@@ -248,6 +248,8 @@ std::string Quote(std::string_view text) {
       quoted += "\\r";
     else if (character == '\n')
       quoted += "\\n";
+    else if (character == '\0')
+      quoted += "\\0";
     else
       quoted += character;
   }

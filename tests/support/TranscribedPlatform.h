@@ -21,8 +21,6 @@ class TranscribedPlatform : public HeadlessPlatform {
   enum class Detail { EveryPause, EveryWait, StatusBar };
   Detail detail = Detail::EveryPause;
 
-  bool clockRaises = false;
-
   // To be called when the game is set up. What the table looks like then is written down, or only
   // kept in mind.
   void Begin(bool isOpeningTold);
@@ -30,7 +28,6 @@ class TranscribedPlatform : public HeadlessPlatform {
   void Note(const std::string& line);
 
   void ProcessEvents(std::uint32_t atMostMs) override;
-  double ClockSeconds() override;
   void StartSound(std::string_view fileName) override;
   std::string InputBox(std::string_view prompt, std::string_view title,
                        std::string_view defaultAnswer) override;
@@ -56,6 +53,7 @@ class TranscribedPlatform : public HeadlessPlatform {
   HelpWindowView helpSeen_;
   AboutWindowView aboutSeen_;
   std::size_t linesAtLastWait_ = 0;
+  int chances_ = 0;
 };
 
 }  // namespace Parlino

@@ -20,7 +20,13 @@ using Lines = std::vector<std::string>;
 
 Lines Play(const Scene& scene) {
   TranscribedPlatform platform;
-  scene.play(platform);
+  try {
+    scene.play(platform);
+  } catch (const ScriptHasNothingToSay&) {
+    platform.transcript.emplace_back("the game comes to no end");
+  } catch (const std::exception& error) {
+    platform.transcript.push_back(std::string("an error leaves the game: ") + error.what());
+  }
   return platform.transcript;
 }
 

@@ -1,5 +1,7 @@
 #include "tests/transcripts/Scenes.h"
 
+#include <cerrno>
+
 #include "engine/Deal.h"
 #include "engine/Generator.h"
 #include "engine/RoundDriver.h"
@@ -8,6 +10,7 @@
 #include "game/Game.h"
 #include "headless/South.h"
 #include "table/CardDisplay.h"
+#include "table/SystemInfo.h"
 #include "table/TableEvents.h"
 
 namespace Parlino {
@@ -289,10 +292,21 @@ void StartInTrouble(TranscribedPlatform& platform) {
   }
 }
 
-// Sums that overflow in the bidding of the first hand and at the end of the second one, and a score
-// that cannot be saved.
-void PlayInTrouble(TranscribedPlatform& platform) {
-  platform.detail = Detail::StatusBar;
+// Plays a hand whose end can be saved at the third try only.
+void PlayWithoutRoom(TranscribedPlatform& platform, const char* savedGame) {
+  platform.files["SaveGame.dat"] = savedGame;
+  platform.ticks = 0;
+  SetUp(platform, 9);
+  constexpr const char* notWritten[] = {"SaveGame.dat", "Points.dat", ""};
+  South south(1);
+  south.onDialog = [&] {
+    platform.fileThatCannotBeWritten = notWritten[(MFormDeluxe.Showings - 1) % 3];
+  };
+  Run(platform, south);
+}
+
+// Sums that overflow in the bidding of the first hand and at the end of the second one.
+void PlayWithErrors(TranscribedPlatform& platform) {
   SetUp(platform, 9);
   int handsBegun = 0;
   South south(1);
@@ -300,12 +314,18 @@ void PlayInTrouble(TranscribedPlatform& platform) {
     if (++handsBegun == 1) Bids[West] = 32767;
     return 3;
   };
-  south.onDialog = [&] { platform.filesCanBeWritten = MFormDeluxe.Showings > 1; };
   platform.script = [&](std::uint32_t atMostMs) {
     if (handsBegun == 2 && TrickNumber == TricksInHand) OurBid = 32767;
     south.OnEvents(atMostMs);
   };
   RunGame();
+}
+
+void PlayInTrouble(TranscribedPlatform& platform) {
+  platform.detail = Detail::StatusBar;
+  PlayWithErrors(platform);
+  for (const char* saved : {"10,20,#TRUE#\r\n", "1000,0,#TRUE#\r\n"})
+    PlayWithoutRoom(platform, saved);
   StartInTrouble(platform);
 }
 
@@ -326,11 +346,56 @@ void RaiseErrors(TranscribedPlatform& platform) {
   PlayCard(West, 0);
   for (const auto play : {PlayFirstCard, PlaySecondCard, PlayThirdCard, PlayFourthCard}) play(West);
   JustMoveCardsOut(West);
-  platform.clockRaises = true;
+  platform.clock = []() -> double { throw GameError(EIO, "The clock cannot be read"); };
   GameInProgress = False;
   GetDealer();
   DealCards();
-  platform.clockRaises = false;
+  platform.clock = nullptr;
+}
+
+void ReadRegistry(TranscribedPlatform& platform, const std::string& key,
+                  const HeadlessPlatform::ScriptedValue& value) {
+  platform.registry = {{{key, "PATH"}, value}};
+  for (const char* name : {"PATH", "ROUTE"}) {
+    std::string text = "as it was";
+    const bool isRead = GetKeyValue(RegistryLocalMachine, key, name, text);
+    if (text.size() > 100) text = JoinText({"of length ", static_cast<int>(text.size())});
+    platform.Note(JoinText({name, isRead ? " is " : " cannot be read: ", Quote(text)}));
+  }
+}
+
+// Values of a registry, and the ways to the tool for system information.
+void LookIntoRegistry(TranscribedPlatform& platform) {
+  using namespace std::string_literals;
+  const std::string toolKey = "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO";
+  const std::string folderKey = "SOFTWARE\\Microsoft\\Shared Tools Location";
+  constexpr std::uint32_t otherType = 4, readOnly = 0x20019;
+  for (const auto& [type, bytes] : {std::pair(RegistryString, "C:\\x\0"s),
+                                    {RegistryString, "C:\\x"},
+                                    {RegistryString, "a\0\0"s},
+                                    {RegistryString, ""},
+                                    {RegistryString, std::string(1024, 'x')},
+                                    {RegistryString, std::string(1025, 'x')},
+                                    {otherType, "1234"}})
+    ReadRegistry(platform, toolKey, {type, bytes});
+  platform.registryRights = readOnly;
+  ReadRegistry(platform, toolKey, {RegistryString, "C:\\x"});
+  platform.registryRights = RegistryFullAccess;
+  constexpr const char* ways[][3] = {{"D:\\info.exe", "C:\\ms", "D:\\info.exe"},
+                                     {nullptr, "C:\\ms", "C:\\ms\\MSINFO32.EXE"},
+                                     {nullptr, "C:\\ms", "C:\\ms\\other.exe"},
+                                     {"D:\\info.exe", "C:\\ms", "C:\\ms\\MSINFO32.EXE"},
+                                     {"", "C:\\ms", ""},
+                                     {"D:\\info.exe", nullptr, "D:\\info.exe"}};
+  for (const auto& [path, folder, file] : ways) {
+    platform.Note("# system information");
+    platform.registry.clear();
+    if (path != nullptr) platform.registry[{toolKey, "PATH"}] = {RegistryString, path};
+    if (folder != nullptr) platform.registry[{folderKey, "MSINFO"}] = {RegistryString, folder};
+    platform.registryRaises = folder == nullptr;
+    platform.files = {{file, ""}};
+    StartSysInfo();
+  }
 }
 
 // What no game of today shows: a dialog with three buttons; and who bids first, which the first
@@ -347,6 +412,7 @@ void ShowRareThings(TranscribedPlatform& platform) {
   for (int answer = 0; answer <= 2; ++answer) ShowDialog(platform, "No", "Perhaps", answer);
   ShowDialog(platform, "", "", 0);
   RaiseErrors(platform);
+  LookIntoRegistry(platform);
 }
 
 }  // namespace
