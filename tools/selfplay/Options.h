@@ -5,14 +5,12 @@
 #include <optional>
 #include <string>
 
-#include "tools/selfplay/South.h"
-
 namespace Parlino {
 
 struct SelfPlayOptions {
   int hands = 0;
   std::uint64_t seed = 0;
-  SouthKind south = SouthKind::Random;
+  bool isSouthARobot = false;  // or one who plays at random
   std::string transcript;  // a file name; empty for none
 };
 

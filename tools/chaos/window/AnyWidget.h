@@ -4,7 +4,7 @@
 #include <QString>
 #include <QWidget>
 
-#include "tools/chaos/ChaosPerson.h"
+#include "tests/chaos/ChaosPerson.h"
 
 namespace Parlino {
 

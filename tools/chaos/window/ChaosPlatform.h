@@ -1,8 +1,8 @@
 // The window's platform with a person who may do anything. Time and clock are virtual.
 #pragma once
 
+#include "tests/chaos/ChaosSession.h"
 #include "tests/window/WindowGame.h"
-#include "tools/chaos/ChaosSession.h"
 
 namespace Parlino {
 

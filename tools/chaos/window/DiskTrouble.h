@@ -3,7 +3,7 @@
 
 #include <filesystem>
 
-#include "tools/chaos/ChaosPerson.h"
+#include "tests/chaos/ChaosPerson.h"
 
 namespace Parlino {
 

@@ -7,7 +7,7 @@
 #include <QTest>
 #include <QWidget>
 
-#include "tools/chaos/ChaosSession.h"
+#include "tests/chaos/ChaosSession.h"
 
 namespace Parlino {
 

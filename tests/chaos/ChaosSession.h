@@ -6,8 +6,8 @@
 #include <ostream>
 #include <string>
 
-#include "tools/chaos/ChaosPerson.h"
-#include "tools/chaos/HandWatch.h"
+#include "tests/chaos/ChaosPerson.h"
+#include "tests/chaos/Referee.h"
 
 namespace Parlino {
 
@@ -45,7 +45,7 @@ class ChaosSession {
   void PrintFigures(std::ostream& out) const;
 
   ChaosPerson person;
-  HandWatch watch;
+  Referee watch;
 
  private:
   void Do(const Deed& deed);
@@ -60,7 +60,6 @@ class ChaosSession {
   int handsScored_ = 0;
   long chancesAtScores_ = 0;
   int deepest_ = 0;
-  bool everythingWritten_ = true;
 };
 
 }  // namespace Parlino

@@ -12,8 +12,8 @@
 #include "game/Game.h"
 #include "headless/Headless.h"
 #include "table/TableView.h"
+#include "tests/chaos/ChaosSession.h"
 #include "tools/CommandLine.h"
-#include "tools/chaos/ChaosSession.h"
 
 namespace Parlino {
 namespace {

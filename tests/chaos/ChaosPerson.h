@@ -6,7 +6,7 @@
 #include <string>
 
 #include "engine/Generator.h"
-#include "tools/chaos/Deed.h"
+#include "tests/chaos/Deed.h"
 
 namespace Parlino {
 

@@ -1,4 +1,4 @@
-#include "tools/chaos/ChaosPerson.h"
+#include "tests/chaos/ChaosPerson.h"
 
 #include <string_view>
 
