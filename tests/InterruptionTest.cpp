@@ -10,27 +10,36 @@
 #include "table/MessageDialog.h"
 #include "table/TableEvents.h"
 #include "table/TableView.h"
+#include "tests/chaos/TableRules.h"
 #include "tests/support/HeadlessGame.h"
 
 namespace Parlino {
 namespace {
 
-TEST(Interruption, NeitherHandsNorNewGamesNest) {
+TEST(Interruption, NeitherHandsNorNewGamesNestOrLeaveAnythingBehind) {
   HeadlessGame game(22);
   game.platform.keepsRecord = false;
   int newGames = 0;
+  int chances = 0;
+  std::string rule;
   std::set<const void*> placesOnStack;
   South south(1000, 1);
   game.platform.script = [&](std::uint32_t atMostMs) {
     if (MFormDeluxe.Visible) placesOnStack.insert(__builtin_frame_address(0));
-    if (HandInProgress && newGames < 1000 && game.platform.ticks % 7 != 0) {
+    if (Pack[1].Suit != 0 && rule.empty()) rule = BrokenTableRule();
+    const auto chooseNewGame = [&] {
       ++newGames;
       ChooseMenu(MenuItem::MnuNew);
-    }
+    };
+    const bool isMoment = Table.FramBids.Visible ? newGames % 3 != 0 : ++chances % 149 == 0;
+    if (HandInProgress && newGames < 1000 && isMoment) chooseNewGame();
     south.OnEvents(atMostMs);
+    if (PlayerHasPlayed != False && newGames % 10 != 0 && newGames < 1000)
+      chooseNewGame();  // right after a click
   };
   EXPECT_EQ(RunGame(), 0);
   EXPECT_EQ(newGames, 1000);
+  EXPECT_EQ(rule, "");
   EXPECT_LE(placesOnStack.size(), 2U) << "one for the scores, one for the end of a game";
   EXPECT_LE(game.platform.deepest, 4);
 }

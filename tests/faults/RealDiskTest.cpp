@@ -60,6 +60,10 @@ TEST(RealDisk, KeepsAFileThatMayNotBeRead) {
   EXPECT_TRUE(ChooseMenu(MenuItem::ErasePoints));
   BecomeOneselfAgain();
   EXPECT_TRUE(game.Said("Points.dat cannot be read: Permission denied"));
+  EXPECT_TRUE(
+      game.Said("box: Parlino: Points.dat could not be read and has been replaced. The file "
+                "that was there is kept as " +
+                folder.Path().string() + "/Points.dat.bad"));
   fs::permissions(folder.Path() / "Points.dat.bad", fs::perms::owner_all);
   EXPECT_EQ(folder.Files().at("Points.dat.bad"), HandWrittenRecords.at("Points.dat"));
   EXPECT_EQ(folder.Files().at("Points.dat"), "0,0\r\n");

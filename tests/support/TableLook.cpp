@@ -1,14 +1,14 @@
 #include "tests/support/TableLook.h"
 
+#include <algorithm>
 #include <cmath>
-#include <optional>
 
 #include "engine/state/GameState.h"
 
 namespace Parlino {
 namespace {
 
-constexpr std::string_view SeatWords[] = {"Player", "West", "North", "East"};
+constexpr std::string_view SeatWords[] = {"Player: ", "West: ", "North: ", "East: "};
 
 std::string Indexed(std::string_view name, int index) {
   return JoinText({name, "(", index, ")"});
@@ -101,65 +101,57 @@ std::string DescribeLook(const ControlLook& before, const ControlLook& after) {
   return text;
 }
 
-TablePoint StepBetween(const ControlLook& one, const ControlLook& next) {
-  return {next.place.Left - one.place.Left, next.place.Top - one.place.Top};
-}
-
 // Cards that have changed alike, in the order in which they lie.
-class Row {
- public:
-  Row(const ControlLook& before, const ControlLook& after)
-      : isMoved_(before.place != after.place), look_(DescribeLook(before, after)), cards_{&after} {}
+struct Row {
+  std::string look;
+  bool isMoved = false;
+  TablePoint step;
+  std::vector<const ControlLook*> cards;
 
-  // Takes the cards of the other row, a single card, if they go on where this one ends.
-  bool Join(const Row& next) {
-    const ControlLook& last = *cards_.back();
-    const ControlLook& card = *next.cards_.front();
-    if (next.isMoved_ != isMoved_ || next.look_ != look_ || card.layer < last.layer) return false;
-    const TablePoint step = isMoved_ ? StepBetween(last, card) : TablePoint{};
+  // Takes the card if it goes on where the row ends.
+  bool Take(const ControlLook& card, const std::string& itsLook, bool isItMoved) {
     constexpr double widestStep = 400;
-    if (std::abs(step.Left) > widestStep || std::abs(step.Top) > widestStep) return false;
-    if (cards_.size() > 1 && step != step_) return false;
-    step_ = step;
-    cards_.push_back(&card);
+    if (cards.empty() || look != itsLook || isMoved != isItMoved) return false;
+    const ControlLook& last = *cards.back();
+    TablePoint way{card.place.Left - last.place.Left, card.place.Top - last.place.Top};
+    if (!isMoved) way = {};
+    if (card.layer < last.layer || std::max(std::abs(way.Left), std::abs(way.Top)) > widestStep ||
+        (cards.size() > 1 && way != step))
+      return false;
+    step = way;
+    cards.push_back(&card);
     return true;
   }
 
   [[nodiscard]] std::string Text() const {
-    std::string text = cards_.front()->name;
-    const auto count = static_cast<int>(cards_.size());
-    const bool isUnbroken = cards_.back()->card - cards_.front()->card == count - 1;
-    if (isUnbroken && count > 4) text += " to " + cards_.back()->name;
-    if (!isUnbroken || count <= 4)
+    const auto count = static_cast<int>(cards.size());
+    std::string text = cards.front()->name;
+    if (count > 4 && cards.back()->card - cards.front()->card == count - 1)
+      text += " to " + cards.back()->name;
+    else
       for (int place = 1; place < count; ++place)
-        text += " " + cards_[static_cast<std::size_t>(place)]->name;
-    text += look_;
-    if (isMoved_) text += " at " + Point(cards_.front()->place);
-    if (isMoved_ && cards_.size() > 1) text += " by " + Point(step_);
+        text += " " + cards[static_cast<std::size_t>(place)]->name;
+    text += look;
+    if (isMoved) text += " at " + Point(cards.front()->place);
+    if (isMoved && count > 1) text += " by " + Point(step);
     return text;
   }
-
- private:
-  bool isMoved_;
-  std::string look_;
-  std::vector<const ControlLook*> cards_;
-  TablePoint step_;
 };
 
 void DescribeCards(const TableLook& before, const TableLook& after, Integer owner,
-                   std::vector<std::string>& text) {
-  std::optional<Row> row;
+                   std::string_view whose, std::vector<std::string>& text) {
+  std::vector<Row> rows;
   for (std::size_t place = 0; place < after.controls.size(); ++place) {
     const ControlLook& was = before.controls[place];
     const ControlLook& is = after.controls[place];
     if (is.card == 0 || Pack[is.card].Owner != owner) continue;
-    if (was.place == is.place && DescribeLook(was, is).empty()) continue;
-    const Row single(was, is);
-    if (row && row->Join(single)) continue;
-    if (row) text.push_back(row->Text());
-    row = single;
+    const std::string look = DescribeLook(was, is);
+    const bool isMoved = was.place != is.place;
+    if (look.empty() && !isMoved) continue;
+    if (rows.empty() || !rows.back().Take(is, look, isMoved))
+      rows.push_back({look, isMoved, {}, {&is}});
   }
-  if (row) text.push_back(row->Text());
+  for (const Row& row : rows) text.push_back(std::string(whose) + row.Text());
 }
 
 void DescribeList(const TableLook& before, const TableLook& after, std::vector<std::string>& text) {
@@ -224,13 +216,9 @@ std::vector<std::string> DescribeChanges(TableLook before, const TableLook& afte
     if (!look.empty()) text.push_back(is.name + look);
   }
   DescribeList(before, after, text);
-  for (Integer seat = Player; seat <= East; ++seat) {
-    const std::size_t known = text.size();
-    DescribeCards(before, after, seat, text);
-    for (std::size_t line = known; line < text.size(); ++line)
-      text[line] = std::string(SeatWords[seat]) + ": " + text[line];
-  }
-  DescribeCards(before, after, NoSeat, text);
+  for (Integer seat = Player; seat <= East; ++seat)
+    DescribeCards(before, after, seat, SeatWords[seat], text);
+  DescribeCards(before, after, NoSeat, "", text);
   return text;
 }
 

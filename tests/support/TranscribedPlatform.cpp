@@ -18,6 +18,7 @@ std::string FirstText(const RichText::Document& document) {
 
 void TranscribedPlatform::Begin(bool isOpeningTold) {
   seen_ = isOpeningTold ? LookAtNothing() : LookAtTable();
+  chances_ = 0;
   NoteChanges();
   NoteWait(0);
 }
@@ -89,7 +90,7 @@ void TranscribedPlatform::NoteWait(std::uint32_t atMostMs) {
 }
 
 void TranscribedPlatform::ProcessEvents(std::uint32_t atMostMs) {
-  constexpr int mostChances = 20'000;
+  constexpr int mostChances = 5'000;
   if (++chances_ > mostChances) throw ScriptHasNothingToSay{};
   if (detail == Detail::EveryPause || atMostMs == Forever) {
     NoteChanges();

@@ -11,7 +11,7 @@ struct SelfPlayOptions {
   int hands = 0;
   std::uint64_t seed = 0;
   bool isSouthARobot = false;  // or one who plays at random
-  std::string transcript;  // a file name; empty for none
+  std::string transcript;      // a file name; empty for none
 };
 
 // Returns nothing if the command line cannot be understood.

@@ -126,7 +126,7 @@ bool WindowChaos::Do(const Deed& deed) {
 // The alarm rings if for a minute no hand has been dealt or scored and no program started.
 void WindowChaos::LookForHang() {
   constexpr unsigned secondsOfPatience = 60;
-  const HandWatch& watch = session_.watch;
+  const auto& watch = session_.watch;
   const int progress = watch.HandsDealt() + watch.HandsScored() + session_.ProgramsBegun();
   if (progress == progress_) return;
   progress_ = progress;
