@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "engine/TrickPlay.h"
-#include "engine/state/Questions.h"
 #include "engine/state/LedSuitQuery.h"
+#include "engine/state/Questions.h"
 #include "robots/Bidding.h"
 #include "robots/Lead.h"
 #include "table/CardDisplay.h"
