@@ -1,6 +1,7 @@
 // The human's turn under clicks that no ordinary player makes, and what is asked without a game.
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <vector>
 
 #include "engine/TrickPlay.h"
 #include "engine/state/LedSuitQuery.h"
@@ -27,7 +28,7 @@ class Turn : public testing::Test {
     for (const Integer card : HandOf(Player)) Show(Table.Cds[card]);
   }
 
-  void ClickInEveryPause(std::initializer_list<const char*> cards) {
+  void ClickInEveryPause(const std::vector<const char*>& cards) {
     game_.platform.script = [cards](std::uint32_t) {
       for (const char* card : cards) ClickCard(CardOf(card));
     };

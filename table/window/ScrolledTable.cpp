@@ -24,6 +24,11 @@ ScrolledTable::ScrolledTable(QWidget* table, QWidget* parent) : QScrollArea(pare
           [this](QWidget*, QWidget* focus) { ShowFocus(focus); });
 }
 
+// The focus moves once more while the table goes, when there is nothing left to scroll.
+ScrolledTable::~ScrolledTable() {
+  disconnect(qApp, nullptr, this, nullptr);
+}
+
 QSize ScrolledTable::WindowSize(QSize around, QSize room) const {
   const QSize whole = widget()->size() + around;
   QSize size = whole;

@@ -10,6 +10,7 @@ class ScrolledTable : public QScrollArea {
  public:
   // Takes ownership of the table.
   ScrolledTable(QWidget* table, QWidget* parent);
+  ~ScrolledTable() override;
 
   // The size of a window that shows all of the table; `around` is the space that the rest of the
   // window needs. If there is less room than that, the size fits into it and leaves space for the
