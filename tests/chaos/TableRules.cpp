@@ -37,7 +37,7 @@ bool PilesShowTricks() {
   int missing = 0;
   for (int seat = Player; seat <= East; ++seat) {
     int shown = 0;
-    for (const Control& picture : *ControlsOf(seat).pile) shown += picture.Visible;
+    for (const Control& picture : *PileOf[seat]) shown += picture.Visible;
     if (shown > TricksWon[seat]) return false;
     missing += TricksWon[seat] - shown;
   }
@@ -46,14 +46,14 @@ bool PilesShowTricks() {
 
 bool CaptionsTellTricks() {
   for (int seat = Player; seat <= East; ++seat)
-    if (!Shows(*ControlsOf(seat).tricks, TricksWon[seat])) return false;
+    if (!Shows(CountsInFrame[seat].tricks, TricksWon[seat])) return false;
   return Shows(Table.LblPNMade, OurTricks()) && Shows(Table.LblWEMade, TheirTricks());
 }
 
 // A bid is made before it is written on the table; once the tricks begin all are there.
 bool CaptionsTellBids() {
   for (int seat = Player; seat <= East; ++seat) {
-    const Label& label = *ControlsOf(seat).bid;
+    const Label& label = CountsInFrame[seat].bid;
     if (!Shows(label, Bids[seat]) && (TrickNumber > 0 || !Shows(label, 0))) return false;
   }
   return TrickNumber == 0 || (Shows(Table.LblPNBid, Bids[Player] + Bids[North]) &&
