@@ -67,6 +67,12 @@ TEST_F(DesktopWindow, TheFocusIsBroughtIntoSight) {
   }
 }
 
+// A menu of theirs would run an event loop of its own, in which the game stands still.
+TEST_F(DesktopWindow, TheScrollBarsHaveNoMenu) {
+  for (const QWidget* bar : {room.horizontalScrollBar(), room.verticalScrollBar()})
+    EXPECT_EQ(bar->contextMenuPolicy(), Qt::NoContextMenu);
+}
+
 TEST_F(DesktopWindow, ThePageKeysScrollWhereverTheFocusIs) {
   window.resize(500, 300);
   game.Turn();
