@@ -11,6 +11,7 @@
 #include <QTextEdit>
 #include <QWheelEvent>
 
+#include "Pictures.h"
 #include "WindowGame.h"
 #include "table/HelpAndAbout.h"
 #include "table/TableEvents.h"
@@ -61,6 +62,15 @@ TEST_F(Help, IsNotModalAndGrowsWithItsText) {
     EXPECT_EQ(game.Find("btnClose").geometry().bottom(), size.height() - 650 + 632);
     EXPECT_LT(game.Find("FindLine").geometry().right(), game.Find("btnClose").x());
   }
+}
+
+TEST_F(Help, LaysOutParagraphsAndTables) {
+  Open(
+      "{\\b Rules}\\par\\qc in the middle\\par\\pard\\li720\\fi-360\\bullet\\tab a "
+      "point\\par\\pard "
+      "\\trowd\\trgaph100\\cellx3000\\cellx6000\\intbl one\\cell two\\cell\\row "
+      "\\trowd\\cellx6000\\intbl wide\\cell\\row\\pard after");
+  ExpectAsKept(Window(), "help");
 }
 
 // However it was left, and even if it is still open, the next showing is read by the keys from the

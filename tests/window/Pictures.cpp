@@ -9,6 +9,7 @@
 #include <QHash>
 #include <QImage>
 #include <QPainter>
+#include <QTextEdit>
 
 namespace Parlino {
 namespace {
@@ -44,7 +45,7 @@ struct Letters {
   [[nodiscard]] double Amount() const { return std::hypot(ink[0], ink[1], ink[2]); }
 
   [[nodiscard]] bool AreLike(const Letters& other) const {
-    const int drift = 1 + box.width() / 16;
+    const int drift = 2 + box.width() / 16;
     const int left = box.left() - other.box.left();
     const int right = box.right() - other.box.right();
     const double product = ink[0] * other.ink[0] + ink[1] * other.ink[1] + ink[2] * other.ink[2];
@@ -53,8 +54,8 @@ struct Letters {
            std::abs(box.bottom() - other.box.bottom()) <= 1 &&
            (std::abs(left) <= 1 || std::abs(left + right) <= 2) && std::abs(left) <= drift &&
            std::abs(right) <= drift &&
-           std::abs(amounts[0] - amounts[1]) <= 0.4 * std::max(amounts[0], amounts[1]) &&
-           product >= 0.985 * amounts[0] * amounts[1];
+           std::abs(amounts[0] - amounts[1]) <= 0.5 * std::max(amounts[0], amounts[1]) &&
+           product >= 0.97 * amounts[0] * amounts[1];
   }
 };
 
@@ -83,7 +84,8 @@ std::vector<QRect> PlacesOfLetters(const QWidget& whole) {
     if (!widget->isVisibleTo(&whole)) continue;
     const QRect place(widget->mapTo(&whole, QPoint()), widget->size());
     if (!widget->property("text").toString().isEmpty() ||
-        qobject_cast<const QAbstractItemView*>(widget) != nullptr)
+        qobject_cast<const QAbstractItemView*>(widget) != nullptr ||
+        qobject_cast<const QTextEdit*>(widget) != nullptr)
       places.push_back(place + MarginOf(*widget));
     else if (!widget->property("title").toString().isEmpty())
       places.push_back(place & QRect(place.topLeft(), QSize(place.width(), heightOfTitle)));
