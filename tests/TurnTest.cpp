@@ -1,7 +1,8 @@
 // The human's turn under clicks that no ordinary player makes, and what is asked without a game.
 #include <algorithm>
-#include <gtest/gtest.h>
 #include <vector>
+
+#include <gtest/gtest.h>
 
 #include "engine/TrickPlay.h"
 #include "engine/state/LedSuitQuery.h"

@@ -3,14 +3,12 @@
 //
 //   parlino-chaos-window --hands N --seed S
 #include <csignal>
-#include <iostream>
 #include <unistd.h>
 
 #include <QApplication>
 #include <QLoggingCategory>
 
-#include "tools/CommandLine.h"
-#include "tools/chaos/window/WindowChaos.h"
+#include "tests/chaos/window/WindowChaos.h"
 
 namespace {
 
@@ -18,21 +16,14 @@ const Parlino::WindowChaos* chaosInUse = nullptr;
 
 // The program ends here, so it does not matter what the signal has interrupted.
 void TellHang(int) {
-  chaosInUse->Tell("no progress for a minute");
+  chaosInUse->Tell("no progress for five minutes");
   _exit(1);
 }
 
 }  // namespace
 
 int main(int count, char* arguments[]) {
-  int hands = 0;
-  std::uint64_t seed = 0;
-  if (!Parlino::ParseCommandLine(
-          count, arguments,
-          {{"--hands", Parlino::TakeNumber(hands, 1)}, {"--seed", Parlino::TakeNumber(seed)}})) {
-    std::cerr << "usage: parlino-chaos-window --hands N --seed S\n";
-    return 2;
-  }
+  const Parlino::ChaosOptions options(count, arguments, "parlino-chaos-window");
   // Unless the caller chooses a platform, the windows are drawn into memory. Settings of the
   // desktop would make runs differ.
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -42,7 +33,7 @@ int main(int count, char* arguments[]) {
   QLoggingCategory::setFilterRules("*.warning=false");
   int onlyTheProgramsName = 1;
   const QApplication application(onlyTheProgramsName, arguments);
-  Parlino::WindowChaos chaos(hands, seed);
+  Parlino::WindowChaos chaos(options);
   chaosInUse = &chaos;
   std::signal(SIGALRM, TellHang);
   return chaos.Play();

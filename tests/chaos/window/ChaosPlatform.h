@@ -17,7 +17,6 @@ class ChaosPlatform : public QuickPlatform {
   [[nodiscard]] int BoxesOpen() const { return boxesOpen_; }
 
   void ProcessEvents(std::uint32_t atMostMs) override;
-  double ClockSeconds() override;
   std::string InputBox(std::string_view prompt, std::string_view title,
                        std::string_view defaultAnswer) override;
   void MsgBox(std::string_view text, std::string_view title, bool critical) override;
@@ -29,7 +28,6 @@ class ChaosPlatform : public QuickPlatform {
   ChaosSession& session_;
   int depth_ = 0;
   int boxesOpen_ = 0;
-  double clockAtStart_ = 43'200;
 };
 
 }  // namespace Parlino

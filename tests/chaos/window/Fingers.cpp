@@ -1,4 +1,4 @@
-#include "tools/chaos/window/Fingers.h"
+#include "tests/chaos/window/Fingers.h"
 
 #include <algorithm>
 
@@ -30,6 +30,38 @@ QString TextOf(Qt::Key key, Qt::KeyboardModifiers modifiers) {
 
 }  // namespace
 
+QWidget* FindAny(const QString& name) {
+  for (QWidget* widget : QApplication::allWidgets())
+    if (widget->objectName() == name) return widget;
+  return nullptr;
+}
+
+// Qt lists its windows in no particular order, but a run must be repeatable.
+QWidgetList WindowsThere() {
+  QWidgetList windows = QApplication::topLevelWidgets();
+  windows.removeIf([](const QWidget* window) {
+    return !window->isVisible() || window->windowType() == Qt::ToolTip;
+  });
+  std::ranges::sort(windows, {}, [](const QWidget* window) {
+    return std::pair(window->objectName(), QString(window->metaObject()->className()));
+  });
+  return windows;
+}
+
+QWidget* Fingers::ChooseWindow() {
+  const QWidgetList windows = WindowsThere();
+  return windows.isEmpty() ? nullptr : windows.at(Below(static_cast<int>(windows.size())));
+}
+
+QWidget* Fingers::ChoosePart() {
+  QWidget* window = ChooseWindow();
+  if (window == nullptr) return nullptr;
+  QWidgetList parts = window->findChildren<QWidget*>() << window;
+  parts.removeIf(
+      [window](const QWidget* part) { return !part->isVisible() || part->window() != window; });
+  return parts.isEmpty() ? nullptr : parts.at(Below(static_cast<int>(parts.size())));
+}
+
 // A desktop's event reaches its widget through the window, which may be blocked by a box in front
 // of it. Events that were on their way when the box opened go straight to the widget.
 void Fingers::Touch(QTest::MouseAction action, QWidget* widget, Qt::MouseButton button,
@@ -41,34 +73,25 @@ void Fingers::Touch(QTest::MouseAction action, QWidget* widget, Qt::MouseButton 
     QTest::mouseEvent(action, widget, button, {}, spot);
 }
 
+// Mostly inside the widget, often at its edge.
 QPoint Fingers::AnySpot(const QWidget& widget) {
-  const int right = widget.width() - 1;
-  const int bottom = widget.height() - 1;
-  switch (Person().NextBelow(6)) {
-    case 0:
-      return {0, bottom};
-    case 1:
-      return {right, Person().NextBelow(bottom + 1)};
-    case 2:
-      return {right + 1, bottom / 2};
-    case 3:
-      return {Person().NextBelow(600) - 300, Person().NextBelow(600) - 300};
-    default:
-      return {Person().NextBelow(std::max(1, right)), Person().NextBelow(std::max(1, bottom))};
-  }
+  constexpr int far = 300;
+  if (Once(6)) return {Below(2 * far) - far, Below(2 * far) - far};
+  if (Once(3)) return {widget.width() - Below(2), Below(widget.height() + 1)};
+  return {Below(widget.width() + 1), Below(widget.height() + 1)};
 }
 
 bool Fingers::ClickAt(QWidget& widget, QPoint spot) {
   const QPointer<QWidget> target(&widget);
   const bool isSeen = widget.isVisible();
-  isThroughWindow_ = Person().Once(2);
+  isThroughWindow_ = Once(2);
   Touch(QTest::MousePress, target, Qt::LeftButton, spot);
   if (target != nullptr) Touch(QTest::MouseRelease, target, Qt::LeftButton, spot);
   return isSeen;
 }
 
 bool Fingers::Click(QWidget& widget) {
-  if (Person().Once(5)) return Fumble(widget);
+  if (Once(5)) return Fumble(widget);
   constexpr int seenLeft = 8;
   return ClickAt(widget, {std::min(seenLeft, widget.width() / 2), widget.height() / 2});
 }
@@ -80,24 +103,24 @@ bool Fingers::Fumble(QWidget& widget) {
                                          Qt::MiddleButton, Qt::BackButton};
   const QPointer<QWidget> target(&widget);
   const bool isSeen = widget.isVisible();
-  isThroughWindow_ = Person().Once(2);
-  for (int count = 1 + Person().NextBelow(4); count > 0 && target != nullptr; --count) {
-    const QTest::MouseAction action = actions[Person().NextBelow(4)];
-    const int button = Person().NextBelow(5);
+  isThroughWindow_ = Once(2);
+  for (int count = 1 + Below(4); count > 0 && target != nullptr; --count) {
+    const QTest::MouseAction action = actions[Below(4)];
+    const Qt::MouseButton button = buttons[Below(5)];
     const QPoint spot = AnySpot(widget);
-    session_.AddToNote(QString("mouse action %1 of button %2 at %3 %4")
-                           .arg(action)
-                           .arg(button)
-                           .arg(spot.x())
-                           .arg(spot.y())
-                           .toStdString());
-    Touch(action, target, buttons[button], spot);
+    session.AddToNote(QString("mouse action %1 of button %2 at %3 %4")
+                          .arg(action)
+                          .arg(button)
+                          .arg(spot.x())
+                          .arg(spot.y())
+                          .toStdString());
+    Touch(action, target, button, spot);
   }
   return isSeen;
 }
 
 bool Fingers::Move(QWidget& widget) {
-  isThroughWindow_ = Person().Once(2);
+  isThroughWindow_ = Once(2);
   const bool isSeen = widget.isVisible();
   Touch(QTest::MouseMove, &widget, Qt::NoButton, AnySpot(widget));
   return isSeen;
@@ -108,7 +131,7 @@ void Fingers::Strike(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   const QPointer<QWidget> focus = WhatHasTheFocus();
   if (focus == nullptr) return;
   const QPointer<QWindow> window = focus->window()->windowHandle();
-  const bool isThroughWindow = Person().Once(2) && window != nullptr && focus->isVisible();
+  const bool isThroughWindow = Once(2) && window != nullptr && focus->isVisible();
   const auto send = [&](bool isDown, Qt::Key code, const QString& text) {
     if (isThroughWindow && window != nullptr)
       QTest::simulateEvent(window.data(), isDown, code, modifiers, text, false);
@@ -126,7 +149,7 @@ void Fingers::Write(const QString& text) {
   QWidget* focus = WhatHasTheFocus();
   if (focus == nullptr) return;
   const bool hasInputMethod = focus->testAttribute(Qt::WA_InputMethodEnabled);
-  switch (Person().NextBelow(hasInputMethod ? 3 : 2)) {
+  switch (Below(hasInputMethod ? 3 : 2)) {
     case 0:
       for (const QChar letter : text.left(30))
         Strike(static_cast<Qt::Key>(letter.toUpper().unicode()),

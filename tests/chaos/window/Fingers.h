@@ -1,5 +1,5 @@
 // The mouse and the keys: clicks, movements and keystrokes as a person makes them, on purpose or by
-// mistake.
+// mistake, and the widgets they may fall on.
 #pragma once
 
 #include <QPoint>
@@ -11,9 +11,18 @@
 
 namespace Parlino {
 
+// The widget with that name, or nullptr.
+QWidget* FindAny(const QString& name);
+// The windows that are on the screen, always in the same order.
+QWidgetList WindowsThere();
+
 class Fingers {
  public:
-  explicit Fingers(ChaosSession& session) : session_(session) {}
+  explicit Fingers(ChaosSession& thisSession) : session(thisSession) {}
+
+  // Any window that is on the screen, and any visible part of one; nullptr if there is none.
+  QWidget* ChooseWindow();
+  QWidget* ChoosePart();
 
   // Each returns whether the widget was on the screen; if it was not, it gets the events all the
   // same, like events that arrive a moment too late.
@@ -32,12 +41,14 @@ class Fingers {
   // Enters text where the focus is: with the keys, by an input method or from the clipboard.
   void Write(const QString& text);
 
+  ChaosSession& session;
+
  private:
-  ChaosPerson& Person() { return session_.person; }
+  int Below(int count) { return session.person.NextBelow(count); }
+  bool Once(int odds) { return session.person.Once(odds); }
   void Touch(QTest::MouseAction action, QWidget* widget, Qt::MouseButton button, QPoint spot);
   QPoint AnySpot(const QWidget& widget);
 
-  ChaosSession& session_;
   bool isThroughWindow_ = false;
 };
 

@@ -1,4 +1,4 @@
-#include "tools/chaos/window/DiskTrouble.h"
+#include "tests/chaos/window/DiskTrouble.h"
 
 #include "persistence/DataFiles.h"
 
