@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "engine/state/Indexed.h"
 #include "engine/state/GameState.h"
+#include "engine/state/Indexed.h"
 #include "engine/state/JoinText.h"
 
 namespace Parlino {

@@ -1,8 +1,7 @@
 // The human's turn under clicks that no ordinary player makes, and what is asked without a game.
 #include <algorithm>
-#include <vector>
-
 #include <gtest/gtest.h>
+#include <vector>
 
 #include "engine/TrickPlay.h"
 #include "engine/state/LedSuitQuery.h"
