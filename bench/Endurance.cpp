@@ -11,10 +11,8 @@
 #include "engine/Generator.h"
 #include "game/Game.h"
 #include "headless/Headless.h"
-#include "table/MessageDialog.h"
-#include "table/TableEvents.h"
+#include "headless/South.h"
 #include "tools/CommandLine.h"
-#include "tools/selfplay/South.h"
 
 namespace Parlino {
 namespace {
@@ -25,8 +23,10 @@ constexpr long MostGrowthKiB = 64;
 
 class Run {
  public:
-  Run(HeadlessPlatform& platform, int hands) : platform_(platform), hands_(hands) {
-    platform.script = [this](std::uint32_t atMostMs) { OnEvents(atMostMs); };
+  Run(HeadlessPlatform& platform, int hands) : platform_(platform), hands_(hands), south_(hands) {
+    PlayAsRobot(south_);
+    south_.onDialog = [this] { EndHand(); };
+    platform.script = [this](std::uint32_t atMostMs) { south_.OnEvents(atMostMs); };
     platform.onMsgBox = [this](std::string_view) { ++reports_; };
     std::puts("   hands  resident KiB  data KiB  deepest nesting  us a hand  error reports");
   }
@@ -50,19 +50,10 @@ class Run {
     int nesting = 0;
   };
 
-  void OnEvents(std::uint32_t atMostMs) {
-    if (atMostMs != Forever) return;
-    if (MFormDeluxe.Visible)
-      EndHand();
-    else if (!south_.Act())
-      ChooseMenu(MenuItem::MnuNew);
-  }
-
   void EndHand() {
     ++played_;
     const int tenth = hands_ / 10;
     if (played_ % tenth == 0) PrintRow(tenth);
-    ClickAnswer(played_ < hands_ ? 0 : 1);
   }
 
   void PrintRow(int handsInRow) {
@@ -78,7 +69,7 @@ class Run {
 
   HeadlessPlatform& platform_;
   int hands_;
-  South south_{SouthKind::Robot, Seed};
+  South south_;
   int played_ = 0;
   int reports_ = 0;
   Row first_;

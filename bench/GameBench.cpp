@@ -6,6 +6,7 @@
 #include "engine/TrickPlay.h"
 #include "game/Game.h"
 #include "headless/Headless.h"
+#include "headless/South.h"
 #include "robots/Bidding.h"
 #include "robots/FourthHand.h"
 #include "robots/Lead.h"
@@ -13,7 +14,6 @@
 #include "table/CardDisplay.h"
 #include "table/MessageDialog.h"
 #include "table/TableEvents.h"
-#include "tools/selfplay/South.h"
 
 namespace Parlino {
 namespace {
@@ -23,7 +23,8 @@ constexpr std::uint64_t Seed = 1;
 // Whole hands, from clearing the table to the score dialog, with South clicking random cards.
 void PlayHand(benchmark::State& state) {
   HeadlessPlatform platform;
-  South south(SouthKind::Random, Seed);
+  South south(0);
+  PlayAtRandom(south, Seed);
   bool done = false;
   platform.script = [&](std::uint32_t atMostMs) {
     if (atMostMs != Forever) return;

@@ -23,6 +23,7 @@
 #include "engine/state/Questions.h"
 #include "persistence/DataFiles.h"
 #include "table/MessageDialog.h"
+#include "tests/window/PersonAtWindow.h"
 #include "tests/window/WindowGame.h"
 #include "tools/CommandLine.h"
 
@@ -89,7 +90,7 @@ class Person {
     else if (Table.FramBids.Visible)
       DoErrand();
     else if (PlayerTurn != False)
-      cards_.ClickNext();
+      player_.PlayCard();
   }
 
   // The program has ended; the next one must continue from here.
@@ -167,7 +168,7 @@ class Person {
   int hands_;
   int played_ = 0;
   int errands_ = 0;
-  CardClicker cards_;
+  PersonAtWindow player_;
   Saved saved_;
   bool hasJustSatDown_ = false;
   bool allCameBack_ = true;

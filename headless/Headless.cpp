@@ -59,6 +59,7 @@ void HeadlessPlatform::WaitForScript() {
 }
 
 double HeadlessPlatform::ClockSeconds() {
+  if (clock) return clock();
   return static_cast<double>((std::uint64_t{clockAtStart} + ticks) % MsInDay) * 0.001;
 }
 
@@ -106,7 +107,7 @@ std::string HeadlessPlatform::ReadFile(std::string_view fileName) {
 
 std::string HeadlessPlatform::ReplaceFile(std::string_view fileName, std::string_view content) {
   Note("written", fileName);
-  if (!filesCanBeWritten)
+  if (!filesCanBeWritten || fileName == fileThatCannotBeWritten)
     throw GameError(EROFS, JoinText({fileName, " cannot be written: Read-only file system"}));
   files.insert_or_assign(std::string(fileName), std::string(content));
   return {};

@@ -38,6 +38,7 @@ class HeadlessPlatform : public Platform {
   // Keyed by the name under which they are asked for, a plain name or a full path.
   std::map<std::string, std::string, std::less<>> files;
   bool filesCanBeWritten = true;
+  std::string fileThatCannotBeWritten;
   std::string programFolder = "/parlino/";
 
   // The registry below the root RegistryLocalMachine: its values by key and name, and the rights
@@ -56,7 +57,9 @@ class HeadlessPlatform : public Platform {
 
   std::uint32_t ticks = 0;
   std::uint32_t clockAtStart = 43'200'000;  // milliseconds since midnight
-  int depth = 0;                            // calls of ProcessEvents nested inside each other
+  // Seconds since midnight, in place of that clock if it is set.
+  std::function<double()> clock;
+  int depth = 0;  // of ProcessEvents inside ProcessEvents
   int deepest = 0;
 
   void ProcessEvents(std::uint32_t atMostMs) override;

@@ -7,8 +7,9 @@
 
 #include "engine/state/Errors.h"
 #include "headless/HeadlessInFolder.h"
-#include "tests/support/HeadlessGame.h"
+#include "persistence/Records.h"
 #include "tests/support/RecordFaults.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace Parlino {
@@ -28,48 +29,17 @@ RecordVerdict TrySoundly(const RecordDoor& door, std::string_view content) {
 }
 
 TEST(Records, AreTakenAndSavedAgainOrRefused) {
-  const struct {
-    std::string_view file;
-    std::string content;
-    std::string savedAs;  // without the line end; "" when it is refused
-  } cases[] = {
-      {SaveGameFile, "120,-35,#TRUE#\r\n", "120,-35,#TRUE#"},
-      {SaveGameFile, "120,-35,#TRUE#\n", "120,-35,#TRUE#"},
-      {SaveGameFile, "120,-35,#TRUE#", "120,-35,#TRUE#"},
-      {SaveGameFile, " 120, -35, #FALSE#\r\n", "120,-35,#FALSE#"},
-      {SaveGameFile, "\xEF\xBB\xBF-0,007,#TRUE#\r\n", "0,7,#TRUE#"},
-      {SaveGameFile, "32767,-32768,#TRUE#\r\n", "32767,-32768,#TRUE#"},
-      {SaveGameFile, "32768,0,#TRUE#\r\n", ""},
-      {SaveGameFile, "120,-32769,#TRUE#\r\n", ""},
-      {SaveGameFile, "120,99999999999999999999,#TRUE#\r\n", ""},
-      {SaveGameFile, "120,-35,TRUE\r\n", ""},
-      {SaveGameFile, "120,-35\r\n", ""},
-      {SaveGameFile, "120,-35,#TRUE#,4\r\n", ""},
-      {SaveGameFile, "120,-35,#TRUE#\r\n1\r\n", ""},
-      {SaveGameFile, "12x,-35,#TRUE#\r\n", ""},
-      {SaveGameFile, ",,\r\n", ""},
-      {SaveGameFile, "120,-35\0,#TRUE#\r\n"s, ""},
-      {PointsFile, "3,7\r", ""},
-      {PointsFile, "3\r7\r\n", ""},
-      {PointsFile, "3,7\r\r\n", ""},
-      {PointsFile, "3,7\n\n", ""},
-      {PointsFile, "3,+7\r\n", ""},
-      {PointsFile, "3,7.5\r\n", ""},
-      {PointsFile, "\0\0\0\0\0"s, ""},
-      {WelcomeFile, "#true#\r\n", ""},
-      {WelcomeFile, "\xEF\xBB\xBF", ""},
-      {WelcomeFile, "\xFF\xFE#\0T\0R\0U\0E\0#\0"s, ""},
-      {NamesFile, "Ann,\"Be, a\",,D\xC3\xA9\r\n", "\"Ann\",\"Be, a\",\"\",\"D\xC3\xA9\""},
-      {NamesFile, "\" A \", B , ,\"\xEF\xBB\xBF\"\n", "\" A \",\"B\",\"\",\"\xEF\xBB\xBF\""},
-      {NamesFile, "a\xE2\x80\xA8,\xC2\x85z,\xE2\x80\xC2\x80\xA9,\xFF", "\"a\",\"z\",\"\",\"\xFF\""},
-      {NamesFile, "\"A\",\"B\",\"C\",\"D\r\n", ""},
-      {NamesFile, "\"A\",\"B\",\"C\",\"D\"\"\r\n", ""},
-      {NamesFile, "\"A\",\"B\0\",\"C\",\"D\"\r\n"s, ""},
-  };
-  for (const auto& example : cases) {
-    const RecordVerdict verdict = TrySoundly(DoorOf(example.file), example.content);
-    const std::string savedAs = example.savedAs.empty() ? "" : example.savedAs + "\r\n";
-    EXPECT_EQ(verdict.savedAs, savedAs) << example.file << " holding " << example.content;
+  for (Row& row : ReadRows("records.txt", "record")) {
+    const RecordVerdict verdict = TrySoundly(DoorOf(row["file"]), row["content"]);
+    const std::string savedAs = row["saved"].empty() ? "" : row["saved"] + "\r\n";
+    EXPECT_EQ(verdict.savedAs, savedAs) << row["file"] << " holding " << row["content"];
+  }
+}
+
+TEST(Records, KeepNamesButForWhatTheyCannotHold) {
+  for (Row& row : ReadRows("records.txt", "name")) {
+    EXPECT_EQ(KeepStorable(row["given"]), row["kept"]);
+    EXPECT_EQ(RecordWriter().Add(row["given"]).Line(), "\"" + row["kept"] + "\"\r\n");
   }
 }
 
@@ -135,8 +105,7 @@ TEST(Records, AreSoundOnWhatFuzzingFound) {
   int files = 0;
   for (const auto& entry :
        fs::directory_iterator(fs::path(PARLINO_SOURCE_FOLDER) / "tests/fuzz/corpus/records")) {
-    std::ifstream file(entry.path(), std::ios::binary);
-    const std::string content{std::istreambuf_iterator<char>(file), {}};
+    const std::string content = ReadText(entry.path());
     for (const RecordDoor& door : RecordDoors) TrySoundly(door, content);
     ++files;
   }

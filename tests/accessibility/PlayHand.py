@@ -1,8 +1,9 @@
 """Plays one hand of the program in the folder given, as a person does who only hears it.
 
-usage: PlayHand.py FOLDER DATA
+usage: PlayHand.py FOLDER DATA [STEPWISE]
 
-A copy of the program's FOLDER is played, with the data files of DATA, on the display at hand.
+A copy of the program's FOLDER is played, with the data files of DATA, on the display at hand: in
+real time, or by the program STEPWISE, whose pauses end as soon as everything told has been heard.
 """
 
 import re
@@ -192,7 +193,7 @@ class Hand:
 
     def expect_quiet(self):
         """Nothing is told while nothing happens, though the table is read meanwhile."""
-        seconds = 3
+        seconds = 2
 
         def told_within(seconds, read=list):
             before = len(self.reader.events)
@@ -216,14 +217,15 @@ class Hand:
         answers[1].press()
 
 
-def play(folder):
-    program = subprocess.Popen([str(folder / "parlino")])
+def play(folder, stepwise):
+    command = [stepwise, folder] if stepwise else [folder / "parlino"]
+    program = subprocess.Popen(command, stdin=subprocess.PIPE if stepwise else None)
     reader = None
     try:
-        reader = ScreenReader(program.pid)
+        reader = ScreenReader(program.pid, program.stdin)
         Hand(reader).play()
-        status = program.wait(timeout=30)
-        expect(status == 0, f"the program ended with status 0, not {status}")
+        reader.wait_for("the program to end", lambda: program.poll() is not None)
+        expect(program.poll() == 0, f"the program ended with status 0, not {program.poll()}")
     except Exception as failure:  # whatever goes wrong, the tree is what explains it
         if not isinstance(failure, Failure):
             traceback.print_exc(file=sys.stdout)
@@ -242,7 +244,7 @@ def main():
         shutil.copytree(sys.argv[2], folder, dirs_exist_ok=True)
         bus = start_bus(scratch)
         try:
-            return play(folder)
+            return play(folder, sys.argv[3] if len(sys.argv) > 3 else None)
         finally:
             bus.terminate()
             bus.wait()

@@ -16,7 +16,7 @@ from gi.repository import Atspi, Gio, GLib  # noqa: E402
 WATCHED = ("object:state-changed", "object:property-change", "object:children-changed",
            "object:text-changed", "object:active-descendant-changed", "object:announcement",
            "window")
-PATIENCE_MS = 10_000  # a program on a busy machine has not hung
+PATIENCE_MS = 60_000  # a program on a busy machine has not hung
 MOST_AT_ONCE = 20  # more only come when the program answers every question with an event
 
 
@@ -63,10 +63,14 @@ def start_bus(folder):
 
 
 class ScreenReader:
-    """Listens to one program. Events are taken in while it waits or reads."""
+    """Listens to one program. Events are taken in while it waits or reads.
 
-    def __init__(self, process_id):
+    A line written to `pauses` ends the pause that the program is in, if it needs to be told."""
+
+    def __init__(self, process_id, pauses=None):
         self.process_id = process_id
+        self.program = None
+        self._pauses = pauses
         self.events = []
         self._waiting = []
         Atspi.set_timeout(PATIENCE_MS, PATIENCE_MS)
@@ -88,10 +92,26 @@ class ScreenReader:
             GLib.MainContext.default().iteration(False)
             for _ in range(min(len(self._waiting), MOST_AT_ONCE)):
                 self._read(self._waiting.pop(0))
+            if seconds > 0:
+                self._end_pause()
             if time.monotonic() >= until:
                 return
-            if not self._waiting:
+            if not self._waiting and not self._pauses:
                 time.sleep(0.005)
+
+    # What the program told before it gives an answer arrives before the answer.
+    def _end_pause(self):
+        if self._pauses is None or self.program is None or self._waiting:
+            return
+        try:
+            self.program.get_child_count()
+            while GLib.MainContext.default().iteration(False):
+                pass
+            if not self._waiting:
+                self._pauses.write(b"\n")
+                self._pauses.flush()
+        except (GLib.Error, BrokenPipeError):
+            pass  # the program has ended
 
     # Not done by the listener: it is called while a question waits for its answer, and a program
     # that tells something at every question would never let that end.
@@ -102,7 +122,7 @@ class ScreenReader:
         except GLib.Error:
             pass  # its source has gone
 
-    def wait_for(self, what, look, seconds=60):
+    def wait_for(self, what, look, seconds=300):
         """What `look` finds as soon as it finds anything; `what` says it in words."""
         until = time.monotonic() + seconds
         while time.monotonic() < until:
@@ -112,7 +132,7 @@ class ScreenReader:
                 found = None  # a part went away while it was looked at
             if found:
                 return found
-            self.listen(0.1)
+            self.listen(0.5 if self._pauses else 0.1)
         raise Failure(f"{what} (waited {seconds} s)")
 
     def parts(self, below=None, hidden_too=False):

@@ -1,6 +1,7 @@
 #include "tests/faults/FaultySystem.h"
 
 #include <cerrno>
+#include <csignal>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -41,6 +42,7 @@ bool FaultySystem::Fails(std::string_view call) {
   calls_.push_back(call);
   errno = fault_.number;
   if (fault_.call == 0 || calls_.size() < fault_.call) return false;
+  if (fault_.manner == Manner::Killed) std::raise(SIGKILL);
   if (fault_.manner == Manner::FromHere) return true;
   if (fault_.manner == Manner::Short) return call == "write" && calls_.size() > fault_.call;
   return fault_.manner == Manner::Once && calls_.size() == fault_.call;
@@ -56,26 +58,30 @@ using Parlino::Manner;
 // NOLINTBEGIN(bugprone-reserved-identifier)
 extern "C" {
 int __real_open(const char* path, int flags, ...);
-int __real_mkostemp(char* path, int flags);
 ssize_t __real_write(int file, const void* bytes, size_t count);
-ssize_t __real_read(int file, void* bytes, size_t count);
-int __real_fchmod(int file, mode_t mode);
-int __real_fstat(int file, struct stat* kind);
-int __real_lstat(const char* path, struct stat* kind);
-int __real_stat(const char* path, struct stat* kind);
-ssize_t __real_readlink(const char* path, char* text, size_t length);
 int __real_close(int file);
-int __real_link(const char* from, const char* to);
-int __real_rename(const char* from, const char* to);
-int __real_unlink(const char* path);
+
+// A call that fails or is the system's.
+#define WRAP(Result, Call, Parameters, Arguments)           \
+  Result __real_##Call Parameters;                          \
+  Result __wrap_##Call Parameters {                         \
+    return CallFails(#Call) ? -1 : __real_##Call Arguments; \
+  }
+WRAP(int, mkostemp, (char* path, int flags), (path, flags))
+WRAP(ssize_t, read, (int file, void* bytes, size_t count), (file, bytes, count))
+WRAP(int, fchmod, (int file, mode_t mode), (file, mode))
+WRAP(int, fstat, (int file, struct stat* kind), (file, kind))
+WRAP(int, lstat, (const char* path, struct stat* kind), (path, kind))
+WRAP(int, stat, (const char* path, struct stat* kind), (path, kind))
+WRAP(ssize_t, readlink, (const char* path, char* text, size_t length), (path, text, length))
+WRAP(int, link, (const char* from, const char* to), (from, to))
+WRAP(int, rename, (const char* from, const char* to), (from, to))
+WRAP(int, unlink, (const char* path), (path))
+#undef WRAP
 
 // The mode counts only for a file that is made, and none is made by this call.
 int __wrap_open(const char* path, int flags, ...) {
   return CallFails("open") ? -1 : __real_open(path, flags, 0600);
-}
-
-int __wrap_mkostemp(char* path, int flags) {
-  return CallFails("mkostemp") ? -1 : __real_mkostemp(path, flags);
 }
 
 ssize_t __wrap_write(int file, const void* bytes, size_t count) {
@@ -85,32 +91,8 @@ ssize_t __wrap_write(int file, const void* bytes, size_t count) {
   return __real_write(file, bytes, takesOneByte ? 1 : count);
 }
 
-ssize_t __wrap_read(int file, void* bytes, size_t count) {
-  return CallFails("read") ? -1 : __real_read(file, bytes, count);
-}
-
-int __wrap_fchmod(int file, mode_t mode) {
-  return CallFails("fchmod") ? -1 : __real_fchmod(file, mode);
-}
-
 int __wrap_fsync(int) {
   return CallFails("fsync") ? -1 : 0;
-}
-
-int __wrap_fstat(int file, struct stat* kind) {
-  return CallFails("fstat") ? -1 : __real_fstat(file, kind);
-}
-
-int __wrap_lstat(const char* path, struct stat* kind) {
-  return CallFails("lstat") ? -1 : __real_lstat(path, kind);
-}
-
-int __wrap_stat(const char* path, struct stat* kind) {
-  return CallFails("stat") ? -1 : __real_stat(path, kind);
-}
-
-ssize_t __wrap_readlink(const char* path, char* text, size_t length) {
-  return CallFails("readlink") ? -1 : __real_readlink(path, text, length);
 }
 
 // As with the system's own, the number is free again even when it fails.
@@ -120,18 +102,6 @@ int __wrap_close(int file) {
   const int result = __real_close(file);
   errno = number;
   return fails ? -1 : result;
-}
-
-int __wrap_link(const char* from, const char* to) {
-  return CallFails("link") ? -1 : __real_link(from, to);
-}
-
-int __wrap_rename(const char* from, const char* to) {
-  return CallFails("rename") ? -1 : __real_rename(from, to);
-}
-
-int __wrap_unlink(const char* path) {
-  return CallFails("unlink") ? -1 : __real_unlink(path);
 }
 }
 // NOLINTEND(bugprone-reserved-identifier)

@@ -13,6 +13,7 @@ enum class Manner {
   FromHere,  // this call fails and all after it
   Short,     // a write that takes one byte only, and after it every write fails
   Bit,       // a write that takes one byte only
+  Killed,    // the process is killed before this call
   Nothing,   // from this call on no write takes a byte, and none fails
 };
 

@@ -1,10 +1,9 @@
-// Every system call of the start of the program and of "Load Saved Game" fails in turn. What cannot
-// be read is told and left alone, and what the game never read is not written over later.
+// Every system call of the start of the program fails in turn. What cannot be read is told and left
+// alone, and what the game never read is not written over later.
 #include <algorithm>
 #include <cerrno>
 #include <gtest/gtest.h>
 
-#include "table/MessageDialog.h"
 #include "table/TableEvents.h"
 #include "table/TableView.h"
 #include "tests/faults/FaultySystem.h"
@@ -64,7 +63,6 @@ TEST(ReadFaults, AtTheStartLoseNothingThatIsSavedLater) {
                     {"Points.dat", "3,7,8"},
                     {"SaveGame.dat", "1,2"},
                     {"Welcome.dat", "yes"}};
-  int faults = 0;
   for (const auto& [files, behindLinks] :
        {std::pair(good, false), std::pair(bad, false), std::pair(bad, true)}) {
     const auto calls = StartAndSave(files, behindLinks, {});
@@ -77,10 +75,8 @@ TEST(ReadFaults, AtTheStartLoseNothingThatIsSavedLater) {
           SCOPED_TRACE(testing::Message() << "call " << call << " " << calls[call - 1] << ", error "
                                           << number << ", manner " << static_cast<int>(manner));
           StartAndSave(files, behindLinks, {call, number, manner});
-          ++faults;
         }
   }
-  std::printf("start: %d faults\n", faults);
 }
 
 void LeaveTheUnreadFileSomewhere(bool behindLinks) {
@@ -107,40 +103,6 @@ void LeaveTheUnreadFileSomewhere(bool behindLinks) {
 
 TEST(ReadFaults, LeaveTheUnreadFileSomewhereWhenItsSavingFailsToo) {
   for (const bool behindLinks : {false, true}) LeaveTheUnreadFileSomewhere(behindLinks);
-}
-
-// Loads the saved game and leaves at the bids of its first hand. Returns the calls of the reading.
-std::vector<std::string_view> LoadAndSave(const Fault& fault) {
-  const TestFolder folder;
-  const Disk before = folder.Files();
-  GameOnDisk game(folder);
-  Events.Form_Load();
-  const Kept values = KeptValues();
-  FaultySystem system(fault);
-  bool told = false;
-  game.platform.script = [&](std::uint32_t atMostMs) {
-    if (MFormDeluxe.Visible) told = MFormDeluxe.Label3 == "   No saved game";
-    if (!ClickAnswer(0) && atMostMs == Forever) throw ScriptHasNothingToSay{};
-  };
-  EXPECT_THROW(ChooseMenu(MenuItem::MnuLoad), ScriptHasNothingToSay);
-  system.Mend();
-  EXPECT_TRUE(KeptValues() == values);
-  EXPECT_TRUE(folder.Files() == before);
-  EXPECT_TRUE(SaveGame());
-  EXPECT_EQ(Holds(folder.Files(), before.at("SaveGame.dat")), told);
-  EXPECT_EQ(game.ContentToldOf().contains(before.at("SaveGame.dat")), told);
-  EXPECT_TRUE(StartsWell(folder));
-  return system.Calls();
-}
-
-TEST(ReadFaults, OfTheSavedGameLeaveTheGameAsItIs) {
-  const auto calls = LoadAndSave({});
-  ASSERT_TRUE(std::ranges::count(calls, "read") >= 1) << "the calls are not counted";
-  for (std::size_t call = 1; call <= calls.size(); ++call)
-    for (const int number : {EIO, EACCES, ENOENT, EMFILE, EINTR}) {
-      SCOPED_TRACE(testing::Message() << calls[call - 1] << ", error " << number);
-      LoadAndSave({call, number, Manner::Once});
-    }
 }
 
 }  // namespace

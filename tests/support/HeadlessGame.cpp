@@ -5,11 +5,8 @@
 
 #include "engine/Generator.h"
 #include "engine/TrickPlay.h"
-#include "engine/state/Questions.h"
 #include "game/Game.h"
-#include "table/MessageDialog.h"
 #include "table/TableEvents.h"
-#include "table/TableView.h"
 
 namespace Parlino {
 namespace {
@@ -18,14 +15,6 @@ template <class Action>
 void ForEachWord(std::string_view text, Action action) {
   std::istringstream words{std::string(text)};
   for (std::string word; words >> word;) action(word);
-}
-
-void PlayFirstLegalCard() {
-  for (const Integer card : HandOf(Player))
-    if (MayPlayCard(card)) {
-      ClickCard(card);
-      return;
-    }
 }
 
 }  // namespace
@@ -38,25 +27,6 @@ HeadlessGame::HeadlessGame(std::uint64_t seed) {
 
 void HeadlessGame::Load() {
   Events.Form_Load();
-}
-
-void PlainPlayer::AnswerDialog() {
-  onDialog();
-  const bool leaving = MFormDeluxe.Label3 == "   Really Exit?";
-  if (!leaving) ++handsScored_;
-  ClickAnswer(leaving || handsScored_ < hands_ ? 0 : 1);
-}
-
-void PlainPlayer::OnEvents(std::uint32_t atMostMs) {
-  if (atMostMs != Forever) return;
-  if (MFormDeluxe.Visible)
-    AnswerDialog();
-  else if (Table.FramBids.Visible)
-    ClickBid(bid_);
-  else if (PlayerTurn != False)
-    PlayFirstLegalCard();
-  else
-    ChooseMenu(MenuItem::MnuNew);
 }
 
 Integer SuitOf(char letter) {

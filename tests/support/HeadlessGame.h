@@ -1,14 +1,12 @@
-// A game without a window for the tests: a platform, a table set up on it, and a South that plays.
+// A game without a window for the tests: a platform and a table set up on it.
 #pragma once
 
-#include <functional>
-#include <initializer_list>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "engine/state/GameState.h"
 #include "headless/Headless.h"
+#include "headless/South.h"
 
 namespace Parlino {
 
@@ -21,26 +19,6 @@ class HeadlessGame {
   static void Load();
 
   HeadlessPlatform platform;
-};
-
-// A person who plays whole hands: presses F2 when nothing is under way, bids `bid`, plays the first
-// card that may be played, and answers dialogs with the first button until `hands` hands have been
-// scored; then with the second.
-class PlainPlayer {
- public:
-  explicit PlainPlayer(int hands, int bid = 3) : hands_(hands), bid_(bid) {}
-
-  void OnEvents(std::uint32_t atMostMs);
-  [[nodiscard]] int HandsScored() const { return handsScored_; }
-  // Called at every dialog, before it is answered.
-  std::function<void()> onDialog = [] {};
-
- private:
-  void AnswerDialog();
-
-  int hands_;
-  int bid_;
-  int handsScored_ = 0;
 };
 
 // The card number of a card in two letters, "QH" or "TS".

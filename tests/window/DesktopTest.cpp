@@ -48,6 +48,15 @@ TEST_F(DesktopWindow, FitsTheScreenAndScrollsOnlyWhereItMust) {
   }
 }
 
+TEST_F(DesktopWindow, TheTableKeepsItsSizeAndPlaceWhenTheWindowGrows) {
+  const QPoint place = table.mapTo(&window, QPoint());
+  EXPECT_EQ(window.size(), table.size() + QSize(0, place.y()));
+  window.resize(1000, 900);
+  game.Turn();
+  EXPECT_EQ(table.mapTo(&window, QPoint()), place);
+  EXPECT_EQ(table.size(), QSize(784, 635));
+}
+
 TEST_F(DesktopWindow, TheFocusIsBroughtIntoSight) {
   window.resize(500, 200);
   for (const char* name : {"CmdDontShow", "LblBids(1)", "LstCardsPlayed", "LblBids(12)"}) {
@@ -56,6 +65,12 @@ TEST_F(DesktopWindow, TheFocusIsBroughtIntoSight) {
     const QRect place(control.mapTo(room.viewport(), QPoint()), control.size());
     EXPECT_TRUE(room.viewport()->rect().contains(place)) << name;
   }
+}
+
+// A menu of theirs would run an event loop of its own, in which the game stands still.
+TEST_F(DesktopWindow, TheScrollBarsHaveNoMenu) {
+  for (const QWidget* bar : {room.horizontalScrollBar(), room.verticalScrollBar()})
+    EXPECT_EQ(bar->contextMenuPolicy(), Qt::NoContextMenu);
 }
 
 TEST_F(DesktopWindow, ThePageKeysScrollWhereverTheFocusIs) {
@@ -113,7 +128,8 @@ TEST_F(DesktopWindow, EveryWindowOpensInTheMiddleFrameIncluded) {
     const QWidget& opened = game.Find(name);
     const QPoint middle = opened.screen()->availableGeometry().center();
     const bool isThere = QTest::qWaitFor(
-        [&] { return (opened.frameGeometry().center() - middle).manhattanLength() <= 2; });
+        [&] { return (opened.frameGeometry().center() - middle).manhattanLength() <= 2; },
+        PatienceMs);
     EXPECT_TRUE(isThere) << name << " is aside by "
                          << (opened.frameGeometry().center() - middle).y();
   }

@@ -82,6 +82,11 @@ class Hints : public testing::Test {
     PutPointer(SpotOf(card));
     raised.clear();
   }
+  void TakeFromHand(int card) {
+    Pack[card].Owner = NoSeat;
+    ShowPlayerHand();
+    Settle();
+  }
   void OpenTurn() {
     PlayerTurn = True;
     Settle();
@@ -95,7 +100,7 @@ class Hints : public testing::Test {
     ASSERT_TRUE(QToolTip::isVisible());
   }
   static bool TipGoes() {
-    return QTest::qWaitFor([] { return !QToolTip::isVisible(); });
+    return QTest::qWaitFor([] { return !QToolTip::isVisible(); }, PatienceMs);
   }
 
   WindowGame game;
@@ -126,138 +131,99 @@ TEST_F(Hints, ThePointerNeedNeverHaveMoved) {
   EXPECT_EQ(raised, "over 31 over 31 ");
 }
 
-TEST_F(Hints, AreToldToTheCardThatIsSeenOfThoseBelowThePointer) {
+TEST_F(Hints, AreOnTheCardThatIsSeenBelowThePointerOnlyAndCallThePlayerByName) {
   PutPointer(CardWidget(18).mapToGlobal(QPoint(40, 48)));
-  OpenTurn();
-  EXPECT_EQ(raised, "over 31 over 31 ");
+  EXPECT_EQ(raised, "over 31 ");
   EXPECT_EQ(HintOn(18), "");
-}
-
-TEST_F(Hints, ThatDoNotHoldAreShownNowhere) {
   RestOn(18);
   RestOn(31);
   EXPECT_EQ(HintOn(18), "wait");
+  PlayerName = "Ann";
+  Settle();
+  EXPECT_EQ(CardWidget(31).toolTip(), "Ann sorry, it is not your turn at the moment.");
   OpenTurn();
   EXPECT_EQ(HintOn(18), "") << "its tip may be about to open";
 }
 
-TEST_F(Hints, CallThePlayerByTheNewName) {
-  RestOn(18);
-  PlayerName = "Ann";
-  Settle();
-  EXPECT_EQ(CardWidget(18).toolTip(), "Ann sorry, it is not your turn at the moment.");
-}
-
 TEST_F(Hints, AreNotRaisedWithoutACardOfTheHandBelowThePointer) {
-  const std::pair<const char*, QPoint> places[] = {
-      {"beside the window", {0, 0}},
-      {"on the table", game.Find("Table").mapToGlobal(QPoint(20, 400))},
-      {"on a back of West's", CardWidget(45).mapToGlobal(QPoint(8, 30))}};
-  for (const auto& [name, place] : places) {
+  for (const QPoint place : {QPoint(0, 0), game.Find("Table").mapToGlobal(QPoint(20, 400)),
+                             CardWidget(45).mapToGlobal(QPoint(8, 30))}) {
     RestOn(18);
     PutPointer(place);
     raised.clear();
     PlayerTurn = PlayerTurn == False ? True : False;
     Settle();
-    EXPECT_EQ(raised, "") << name;
+    EXPECT_EQ(raised, "") << place.x();
   }
 }
 
 TEST_F(Hints, WaitUntilADialogIsAnsweredAndThenHold) {
-  int waits = 0;
-  const auto answer = [&] {
-    PlayerTurn = True;
-    if (++waits < 5) return;
-    EXPECT_EQ(raised, "");
-    if (QDialog* box = OpenBox())
-      box->reject();
-    else
-      PressKey(Qt::Key_Return);
-  };
-  const std::pair<const char*, std::function<void()>> dialogs[] = {
-      {"a box", [&] { game.platform.MsgBox("text", "title", false); }},
-      {"the game's own", [] { ShowMessage("text", "OK", "", "", 1, "title"); }}};
-  for (const auto& [name, show] : dialogs) {
+  for (const bool isBox : {true, false}) {
     PlayerTurn = False;
     Settle();
     RestOn(18);
-    waits = 0;
-    game.platform.person = answer;
-    show();
+    int waits = 0;
+    game.platform.person = [&] {
+      PlayerTurn = True;
+      if (++waits < 5) return;
+      EXPECT_EQ(raised, "");
+      PressKey(Qt::Key_Return);
+    };
+    if (isBox)
+      game.platform.MsgBox("text", "title", false);
+    else
+      ShowMessage("text", "OK", "", "", 1, "title");
     game.platform.person = [] {};
-    EXPECT_GE(waits, 5) << name;
+    EXPECT_GE(waits, 5);
     Settle();
-    EXPECT_EQ(HintOn(18), "play") << name;
-    EXPECT_EQ(raised, "over 18 ") << name;
+    EXPECT_EQ(HintOn(18), "play");
+    EXPECT_EQ(raised, "over 18 ");
   }
 }
 
-// Nor is anything left in the queue, which would keep the game awake.
+// Another program's window lies in front, or the game has not gone on after an answer. Nor is
+// anything left in the queue, which would keep the game awake.
 TEST_F(Hints, WaitWhileThePlayerCouldNotMoveThePointerThere) {
   QWindow* window = game.Find("FrmMain").windowHandle();
   const QPointF spot = window->mapFromGlobal(SpotOf(18));
-  const struct {
-    const char* name;
-    std::function<void()> begin;
-    std::function<void()> end;
-  } cases[] = {{"another program's window lies in front",
-                [=] {
-                  QEvent leave(QEvent::Leave);
-                  QApplication::sendEvent(window, &leave);
-                },
-                [=] {
-                  QEnterEvent enter(spot, spot, SpotOf(18));
-                  QApplication::sendEvent(window, &enter);
-                }},
-               {"the game has not gone on after an answer", [] { MFormDeluxe.IsWaiting = true; },
-                [] { MFormDeluxe.IsWaiting = false; }}};
-  for (const auto& example : cases) {
+  for (const bool isCovered : {true, false}) {
     PlayerTurn = False;
     Settle();
     RestOn(18);
-    example.begin();
+    QEvent leave(QEvent::Leave);
+    if (isCovered) QApplication::sendEvent(window, &leave);
+    MFormDeluxe.IsWaiting = !isCovered;
     int waits = 0;
     game.platform.person = [&] { ++waits; };
     OpenTurn();
     game.platform.person = [] {};
-    EXPECT_EQ(waits, 5) << example.name;
-    EXPECT_EQ(raised, "") << example.name;
-    example.end();
+    EXPECT_EQ(waits, 5);
+    EXPECT_EQ(raised, "");
+    QEnterEvent enter(spot, spot, SpotOf(18));
+    if (isCovered) QApplication::sendEvent(window, &enter);
+    MFormDeluxe.IsWaiting = false;
     Settle();
-    EXPECT_EQ(raised, "over 18 ") << example.name;
+    EXPECT_EQ(raised, "over 18 ");
   }
 }
 
-TEST_F(Hints, FollowTheCardsThatComeToLieBelowThePointer) {
+TEST_F(Hints, FollowTheCardsThatComeToLieBelowThePointerOnceNoButtonIsHeld) {
   RestOn(31);
-  Pack[5].Owner = NoSeat;
-  ShowPlayerHand();
+  QWindow* window = game.Find("FrmMain").windowHandle();
+  const QPoint spot = window->mapFromGlobal(SpotOf(31));
+  QTest::mousePress(window, Qt::LeftButton, {}, spot);
+  TakeFromHand(5);
+  EXPECT_EQ(raised, "");
+  QTest::mouseRelease(window, Qt::LeftButton, {}, spot);
   Settle();
   EXPECT_EQ(raised, "over 44 ");
   EXPECT_EQ(HintOn(44), "wait");
   EXPECT_TRUE(CardWidget(44).underMouse()) << "Qt shows the pointer of this card";
   PutPointer(CardWidget(44).mapToGlobal(QPoint(66, 48)));
   raised.clear();
-  Pack[18].Owner = NoSeat;
-  ShowPlayerHand();
-  Settle();
+  TakeFromHand(18);
   EXPECT_FALSE(CardWidget(44).underMouse()) << "the bare table has the ordinary pointer";
   EXPECT_EQ(raised, "");
-}
-
-TEST_F(Hints, WaitUntilTheButtonIsLetGo) {
-  RestOn(31);
-  QWindow* window = game.Find("FrmMain").windowHandle();
-  const QPoint spot = window->mapFromGlobal(SpotOf(31));
-  QTest::mousePress(window, Qt::LeftButton, {}, spot);
-  Pack[5].Owner = NoSeat;
-  ShowPlayerHand();
-  OpenTurn();
-  EXPECT_EQ(raised, "");
-  QTest::mouseRelease(window, Qt::LeftButton, {}, spot);
-  Settle();
-  EXPECT_EQ(raised, "over 44 ");
-  EXPECT_EQ(HintOn(44), "play");
 }
 
 TEST_F(Hints, LeaveCardsOnTheirWayAlone) {
@@ -326,9 +292,7 @@ TEST_F(Hints, OpenAsATipForNobodyWhoDoesNotMoveThePointer) {
   OpenTurn();
   ASSERT_TRUE(TipGoes());
   EXPECT_FALSE(tipOpens()) << "the turn has come";
-  Pack[5].Owner = NoSeat;
-  ShowPlayerHand();
-  Settle();
+  TakeFromHand(5);
   EXPECT_EQ(HintOn(44), "play");
   EXPECT_FALSE(tipOpens()) << "another card has come";
 }

@@ -2,12 +2,12 @@
 #include <gtest/gtest.h>
 #include <utility>
 
-#include <QAction>
 #include <QApplication>
 #include <QListView>
 #include <QTest>
 #include <QWindow>
 
+#include "PersonAtWindow.h"
 #include "WindowGame.h"
 #include "engine/state/GameState.h"
 #include "table/CardDisplay.h"
@@ -25,66 +25,16 @@ std::string FocusName() {
   return Focus() == nullptr ? std::string() : Focus()->objectName().toStdString();
 }
 
-// Uses only the keys and what can be seen on the table; presses one key at a time.
-class KeyPlayer {
- public:
-  std::string bid = "3";
-  int hands = 0;
-
-  void Act() {
-    if (QApplication::activeModalWidget() != nullptr)
-      Answer();
-    else if (!hasStarted_)
-      Start();
-    else if (WindowGame::Find("FramBids").isVisible())
-      Bid();
-    else
-      Play();
-  }
-
- private:
-  // "Next Hand" is the first answer; when the game is over, the second one exits.
-  void Answer() {
-    ++hands;
-    if (QApplication::activeModalWidget()->windowTitle() != "Game Over")
-      return PressKey(Qt::Key_Return);
-    PressKey(Qt::Key_Right);
-    PressKey(Qt::Key_Space);
-  }
-  void Start() {
-    hasStarted_ = true;
-    PressKey(Qt::Key_F2);
-  }
-  void Bid() {
-    for (const char digit : bid) PressKey(static_cast<Qt::Key>(digit));
-    PressKey(Qt::Key_Return);
-  }
-  void Play() {
-    PressKey(Qt::Key_Up);
-    PressKey(Qt::Key_Space);
-  }
-
-  bool hasStarted_ = false;
-};
-
 TEST(Keys, PlayAWholeGame) {
   WindowGame game;
-  KeyPlayer player;
-  EXPECT_EQ(game.Run([&] { player.Act(); }), 0);
-  EXPECT_GE(player.hands, 3);
+  PersonAtWindow person(PersonAtWindow::Means::Keys);
+  person.chooseAnswer = [] {
+    return QApplication::activeModalWidget()->windowTitle() == "Game Over" ? 1 : 0;
+  };
+  EXPECT_EQ(game.Run([&] { person.Act(); }), 0);
+  EXPECT_GE(person.answers, 3);
   EXPECT_EQ(GamesPlayed, 1);
   EXPECT_EQ(game.platform.ReadFile("SaveGame.dat"), "0,0,#FALSE#\r\n");
-}
-
-TEST(Keys, BidWithTwoDigits) {
-  WindowGame game;
-  KeyPlayer player;
-  player.bid = "12";
-  game.Run([&] {
-    if (Bids[Player] > 0) throw SeenEnough{};
-    player.Act();
-  });
-  EXPECT_EQ(Bids[Player], 12);
 }
 
 // The place of the focused card in the Player's row, 1 for the first; 0 if none has the focus.
@@ -100,17 +50,14 @@ int PlaceOfFocus() {
 // shorter.
 TEST(Keys, TheFocusIsWhereThePlayerNeedsIt) {
   WindowGame game;
-  KeyPlayer player;
+  PersonAtWindow person(PersonAtWindow::Means::Keys);
   int played = 0;
-  int placeBefore = 0;
+  int placeBefore = 1;
   game.Run([&] {
     if (QApplication::activeModalWidget() != nullptr) throw SeenEnough{};
-    if (WindowGame::Find("FramBids").isVisible()) {
-      EXPECT_EQ(FocusName(), "LblBids(1)");
-    }
-    if (PlayerTurn == False) return player.Act();
-    const int expected = played == 0 ? 1 : std::min<int>(placeBefore, PlayersRow().Count());
-    EXPECT_EQ(PlaceOfFocus(), expected) << played;
+    EXPECT_TRUE(game.Find("FramBids").isHidden() || FocusName() == "LblBids(1)");
+    if (PlayerTurn == False) return person.Act();
+    EXPECT_EQ(PlaceOfFocus(), std::min<int>(placeBefore, PlayersRow().Count())) << played;
     // Moves to a different place for each card, including the two ends.
     if (++played % 3 == 0) PressKey(Qt::Key_End);
     if (played % 5 == 0) PressKey(Qt::Key_Home);
@@ -144,8 +91,13 @@ class TableKeysTest : public testing::Test {
     for (const Qt::Key key : keys) PressKey(key);
     game.Turn();
   }
+  void Open(Control& control, bool opens = true) {
+    SetVisible(control, opens);
+    game.Turn();
+  }
 
   WindowGame game;
+  QWidget& mark = game.Find("FocusMark");
 };
 
 TEST_F(TableKeysTest, RaiseTheEventsOfTheMouseAndNoOthers) {
@@ -157,10 +109,8 @@ TEST_F(TableKeysTest, RaiseTheEventsOfTheMouseAndNoOthers) {
 }
 
 TEST_F(TableKeysTest, NothingIsPlayedOrBidThatWasNotMarked) {
-  QWidget& panel = game.Find("FramBids");
   for (const bool isBidding : {false, true}) {
-    SetVisible(Table.FramBids, isBidding);
-    game.Turn();
+    Open(Table.FramBids, isBidding);
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
       Click(game.Find("Table"));
       Press({key});
@@ -169,18 +119,17 @@ TEST_F(TableKeysTest, NothingIsPlayedOrBidThatWasNotMarked) {
   }
   // A button that was pressed with the mouse, which was then released elsewhere.
   Press({Qt::Key_Right});
-  QTest::mousePress(&game.Find("LblBids(11)"), Qt::LeftButton);
-  QTest::mouseRelease(&game.Find("LblBids(11)"), Qt::LeftButton, {}, {-50, 0});
-  game.Find("LblBids(11)").setFocus();
+  QWidget& eleven = game.Find("LblBids(11)");
+  QTest::mousePress(&eleven, Qt::LeftButton);
+  QTest::mouseRelease(&eleven, Qt::LeftButton, {}, {-50, 0});
+  eleven.setFocus();
   Press({Qt::Key_Left, Qt::Key_Return});
   EXPECT_EQ(raised, "bid 10 ");
-  EXPECT_TRUE(panel.isVisible());
 }
 
 TEST_F(TableKeysTest, ThePanelOpensAtOneAndTheMarkOfANumberIsSeen) {
   for (int round = 1; round <= 2; ++round) {
-    Show(Table.FramBids);
-    game.Turn();
+    Open(Table.FramBids);
     EXPECT_EQ(FocusName(), "LblBids(1)");
     const QImage plain = game.Find("LblBids(7)").grab().toImage();
     Press({Qt::Key_7});
@@ -188,8 +137,7 @@ TEST_F(TableKeysTest, ThePanelOpensAtOneAndTheMarkOfANumberIsSeen) {
     std::string way;  // the path of the focus, because tools read out every stop
     const auto watching =
         QObject::connect(qApp, &QApplication::focusChanged, [&way] { way += FocusName() + " "; });
-    Hide(Table.FramBids);
-    game.Turn();
+    Open(Table.FramBids, false);
     QObject::disconnect(watching);
     EXPECT_EQ(way, "Cds(5) ");
   }
@@ -212,31 +160,26 @@ TEST_F(TableKeysTest, AnotherHandIsWalkedThroughOnceItIsDealt) {
 }
 
 TEST_F(TableKeysTest, AKeyHeldDownPlaysAndBidsOnce) {
-  Press({Qt::Key_Home});
-  QTest::sendKeyEvent(QTest::Press, Focus(), Qt::Key_Return, QString("\r"), Qt::NoModifier);
-  const auto repeat = [] {
+  const auto repeat = [this] {
     QKeyEvent again(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
     QApplication::sendEvent(Focus(), &again);
+    game.Turn();
   };
+  Press({Qt::Key_Home});
+  QTest::sendKeyEvent(QTest::Press, Focus(), Qt::Key_Return, QString("\r"), Qt::NoModifier);
   repeat();
-  game.Turn();
-  EXPECT_EQ(raised, "card 5 ");
-  Show(Table.FramBids);
-  game.Turn();
+  Open(Table.FramBids);
   EXPECT_EQ(FocusName(), "LblBids(1)");
   repeat();
-  game.Turn();
   EXPECT_EQ(raised, "card 5 ");
   // Held down since it closed a box: it marks nothing and presses no button.
   Click(game.Find("Table"));
   game.Find("Cds(5)").setFocus();
   repeat();
-  EXPECT_FALSE(game.Find("FocusMark").isVisible());
-  Show(Table.CmdDontShow);
-  game.Turn();
+  EXPECT_FALSE(mark.isVisible());
+  Open(Table.CmdDontShow);
   game.Find("CmdDontShow").setFocus();
   repeat();
-  game.Turn();
   EXPECT_EQ(HideWelcome, False);
 }
 
@@ -271,7 +214,6 @@ TEST_F(TableKeysTest, KeysInTheListOrWithCtrlMeanNothingForTheHand) {
   EXPECT_EQ(list.currentIndex().data().toString(), "North played");
   PressKey(Qt::Key_H, Qt::AltModifier);
   Press({Qt::Key_Escape, Qt::Key_Tab});
-  EXPECT_EQ(FocusName(), "Cds(5)");
   EXPECT_FALSE(list.selectionModel()->hasSelection()) << "it looks as if it had the focus";
   for (const Qt::Key key : {Qt::Key_S, Qt::Key_H, Qt::Key_End}) PressKey(key, Qt::ControlModifier);
   game.Turn();
@@ -279,9 +221,8 @@ TEST_F(TableKeysTest, KeysInTheListOrWithCtrlMeanNothingForTheHand) {
   EXPECT_EQ(raised, "");
 }
 
-TEST_F(TableKeysTest, TabGoesRoundTheTableWhenNoCardMayBePlayed) {
-  Show(Table.FramBids);
-  game.Turn();
+TEST_F(TableKeysTest, TabGoesRoundTheTableOrTheCardsThatMayBePlayed) {
+  Open(Table.FramBids);
   for (const char* stop : {"LblBids(1)", "LstCardsPlayed", "Cds(5)", "LblBids(1)"}) {
     EXPECT_EQ(FocusName(), stop);
     Press({Qt::Key_Tab});
@@ -290,9 +231,7 @@ TEST_F(TableKeysTest, TabGoesRoundTheTableWhenNoCardMayBePlayed) {
   EXPECT_EQ(FocusName(), "LblBids(13)") << "a number works from the hand, too";
   Press({Qt::Key_Up, Qt::Key_Space});
   EXPECT_EQ(raised, "bid 9 ");
-}
-
-TEST_F(TableKeysTest, TabStaysWithTheCardsThatMayBePlayedAndShiftTabLeaves) {
+  Open(Table.FramBids, false);
   PlayerTurn = True;
   Leader = West;
   TrickSuits[1] = Hearts;
@@ -303,7 +242,6 @@ TEST_F(TableKeysTest, TabStaysWithTheCardsThatMayBePlayedAndShiftTabLeaves) {
 }
 
 TEST_F(TableKeysTest, TheMarkIsForTheKeysAndFramesWhatIsSeenOfTheCard) {
-  QWidget& mark = game.Find("FocusMark");
   Press({Qt::Key_Right});
   EXPECT_TRUE(mark.isVisible());
   EXPECT_LT(mark.geometry().right() - 9, game.Find("Cds(31)").x()) << "it covers the next card";
@@ -315,62 +253,37 @@ TEST_F(TableKeysTest, TheMarkIsForTheKeysAndFramesWhatIsSeenOfTheCard) {
   Press({Qt::Key_End});
   EXPECT_NE(mark.grab().toImage(), outOfTurn) << "whether it may be played is not to be seen";
   Click(game.Find("Cds(5)"));
-  game.Turn();
-  EXPECT_FALSE(mark.isVisible());
-  PressKey(Qt::Key_Control);
+  Press({Qt::Key_Control});
   EXPECT_FALSE(mark.isVisible());
   Press({Qt::Key_Left, Qt::Key_Backtab});
   EXPECT_FALSE(mark.isVisible()) << "the list has the focus";
-  Press({Qt::Key_Tab});
-  Press({Qt::Key_Home});
+  Press({Qt::Key_Tab, Qt::Key_Home});
   EXPECT_TRUE(mark.isVisible());
-  const QWidget* underMark = game.Find("Table").childAt(game.Find("Cds(5)").pos() + QPoint(2, 2));
-  EXPECT_EQ(underMark, Focus()) << "the mark takes the clicks of its card";
+  QWidget& first = game.Find("Cds(5)");
+  EXPECT_EQ(game.Find("Table").childAt(first.pos() + QPoint(2, 2)), &first) << "it takes clicks";
   const QPoint place = mark.pos();
-  game.Find("Cds(5)").move(game.Find("Cds(5)").pos() + QPoint(7, 0));
+  first.move(first.pos() + QPoint(7, 0));
   EXPECT_EQ(mark.pos(), place + QPoint(7, 0));
 }
 
 // Where the focus is when a key is pressed.
 enum Place { OnBid, OnCard, OnList };
 
-struct KeyCase {
-  Qt::Key key;
-  Qt::KeyboardModifiers modifiers = {};
-  bool counts[3] = {false, false, false};  // on a bid, on a card, in the list
-};
-
-const KeyCase KeyCases[] = {
+const struct {
+  const char* where;  // they count: on a Bid, on a Card, in the List
+  std::initializer_list<QKeyCombination> keys;
+} KeyCases[] = {
     // Commands, and keys that do not use the mark: a mouse player presses them too.
-    {Qt::Key_F2},
-    {Qt::Key_F1},
-    {Qt::Key_Escape},
-    {Qt::Key_PageUp},
-    {Qt::Key_PageDown},
-    {Qt::Key_VolumeUp},
-    {Qt::Key_Q},
-    {Qt::Key_Shift, Qt::ShiftModifier},
-    {Qt::Key_Control, Qt::ControlModifier},
-    {Qt::Key_S, Qt::ControlModifier},
-    {Qt::Key_1, Qt::ControlModifier},
-    {Qt::Key_Left, Qt::AltModifier},
-    {Qt::Key_Right, Qt::MetaModifier},
-    {Qt::Key_Return, Qt::ControlModifier},
-    {Qt::Key_Space, Qt::ControlModifier},
+    {"", {Qt::Key_F2, Qt::Key_F1, Qt::Key_Escape, Qt::Key_PageUp, Qt::Key_PageDown}},
+    {"", {Qt::Key_VolumeUp, Qt::Key_Q, Qt::SHIFT | Qt::Key_Shift, Qt::CTRL | Qt::Key_Control}},
+    {"", {Qt::CTRL | Qt::Key_S, Qt::CTRL | Qt::Key_1, Qt::ALT | Qt::Key_Left}},
+    {"", {Qt::META | Qt::Key_Right, Qt::CTRL | Qt::Key_Return, Qt::CTRL | Qt::Key_Space}},
     // Keys that move or use the mark.
-    {Qt::Key_Left, {}, {true, true, false}},
-    {Qt::Key_Right, Qt::ShiftModifier, {true, true, false}},
-    {Qt::Key_Up, {}, {true, true, false}},
-    {Qt::Key_Down, Qt::KeypadModifier, {true, true, false}},
-    {Qt::Key_Home, {}, {true, true, false}},
-    {Qt::Key_End, {}, {true, true, false}},
-    {Qt::Key_7, {}, {true, true, false}},
-    {Qt::Key_H, {}, {false, true, false}},
-    {Qt::Key_Return, {}, {true, true, false}},
-    {Qt::Key_Enter, Qt::KeypadModifier, {true, true, false}},
-    {Qt::Key_Space, {}, {true, true, false}},
-    {Qt::Key_Tab, {}, {true, true, true}},
-    {Qt::Key_Backtab, Qt::ShiftModifier, {true, true, true}},
+    {"BC", {Qt::Key_Left, Qt::SHIFT | Qt::Key_Right, Qt::Key_Up, Qt::Key_Home, Qt::Key_End}},
+    {"BC", {Qt::KeypadModifier | Qt::Key_Down, Qt::KeypadModifier | Qt::Key_Enter, Qt::Key_7}},
+    {"BC", {Qt::Key_Return, Qt::Key_Space}},
+    {"C", {Qt::Key_H}},
+    {"BCL", {Qt::Key_Tab, Qt::SHIFT | Qt::Key_Backtab}},
 };
 
 class UseOfKeysTest : public TableKeysTest {
@@ -380,11 +293,29 @@ class UseOfKeysTest : public TableKeysTest {
     Show(Table.FramBids);
     game.Turn();
   }
-  void Press(const KeyCase& example, Place place) {
+  void Press(QKeyCombination key, Place place) {
     constexpr const char* names[] = {"LblBids(4)", "Cds(18)", "LstCardsPlayed"};
     game.Find(names[place]).setFocus();
-    PressKey(example.key, example.modifiers);
+    PressKey(key.key(), key.keyboardModifiers());
     game.Turn();
+  }
+  void ExpectUse(QKeyCombination key, Place place, bool counts) {
+    SCOPED_TRACE(QKeySequence(key).toString().toStdString() + " at place " + std::to_string(place));
+    raised.clear();
+    Click(game.Find("Table"));
+    Press(key, place);
+    EXPECT_EQ(MarkIsSeen(), counts);
+    EXPECT_EQ(raised, "") << "nothing was marked";
+    if (counts) return;
+    for (const Place stray : {OnBid, OnCard}) {
+      Click(game.Find("Table"));
+      Press(key, place);
+      Press(Qt::Key_Return, stray);
+      EXPECT_EQ(raised, "") << "the key before made a mark";
+    }
+    Press(key, place);
+    EXPECT_TRUE(MarkIsSeen()) << "who plays by keys goes on";
+    EXPECT_EQ(raised, "");
   }
   bool MarkIsSeen() {
     game.Find("Cds(5)").setFocus();
@@ -393,27 +324,10 @@ class UseOfKeysTest : public TableKeysTest {
 };
 
 TEST_F(UseOfKeysTest, OnlyKeysThatMoveTheMarkOrUseItCount) {
-  for (const KeyCase& example : KeyCases) {
-    for (const Place place : {OnBid, OnCard, OnList}) {
-      SCOPED_TRACE(QKeySequence(example.key).toString().toStdString() + " at place " +
-                   std::to_string(place));
-      raised.clear();
-      Click(game.Find("Table"));
-      Press(example, place);
-      EXPECT_EQ(MarkIsSeen(), example.counts[place]);
-      EXPECT_EQ(raised, "") << "nothing was marked";
-      if (example.counts[place]) continue;
-      for (const Place stray : {OnBid, OnCard}) {
-        Click(game.Find("Table"));
-        Press(example, place);
-        Press({Qt::Key_Return}, stray);
-        EXPECT_EQ(raised, "") << "the key before made a mark";
-      }
-      Press(example, place);
-      EXPECT_TRUE(MarkIsSeen()) << "who plays by keys goes on";
-      EXPECT_EQ(raised, "");
-    }
-  }
+  for (const auto& [where, keys] : KeyCases)
+    for (const QKeyCombination key : keys)
+      for (const Place place : {OnBid, OnCard, OnList})
+        ExpectUse(key, place, QString(where).contains(QChar("BCL"[place])));
 }
 
 // Someone who uses keys in the dialog also plays with keys at the table; the mouse works the same
@@ -443,26 +357,22 @@ TEST_F(UseOfKeysTest, InTheDialogCountAtTheTableAndTheMouseThereDoes) {
 
 // The most common way to start: everything but F2 is done with the mouse.
 TEST(Keys, F2AndTheMouseLeaveTheTableUnmarked) {
-  const auto pictureOfBids = [](bool isStartedByKey) {
+  QImage pictures[2];
+  for (const bool isStartedByKey : {false, true}) {
     WindowGame game;
-    QImage picture;
-    bool hasStarted = false;
+    PersonAtWindow person;
+    if (!isStartedByKey) person.starts = 1;
+    bool hasStarted = isStartedByKey;
     game.Run([&] {
-      if (!std::exchange(hasStarted, true)) {
-        if (isStartedByKey) return PressKey(Qt::Key_F2);
-        return game.Find("FrmMain").findChild<QAction*>("MnuNew")->trigger();
-      }
-      if (game.Find("FramBids").isVisible()) {
-        picture = game.Find("FramBids").grab().toImage();
-        Click(game.Find("LblBids(3)"));
-      }
-      if (PlayerTurn == False) return;
+      if (!std::exchange(hasStarted, true)) ChooseMenu(MenuItem::MnuNew);
+      if (game.Find("FramBids").isVisible())
+        pictures[isStartedByKey] = game.Find("FramBids").grab().toImage();
+      if (PlayerTurn == False) return person.Act();
       EXPECT_FALSE(game.Find("FocusMark").isVisible());
       throw SeenEnough{};
     });
-    return picture;
-  };
-  EXPECT_EQ(pictureOfBids(true), pictureOfBids(false));
+  }
+  EXPECT_EQ(pictures[0], pictures[1]);
 }
 
 }  // namespace

@@ -127,7 +127,7 @@ TEST(LongNames, GoFromAnOpenTipWhenTheyAreChanged) {
   EXPECT_TRUE(QToolTip::isVisible());
   SetCaption(Table.LblName[North], {std::string(100, 'E')});
   game.Turn();
-  EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
+  EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }, PatienceMs));
 }
 
 TEST(WrappedText, EveryLineFitsAndNoWordIsLost) {
@@ -149,16 +149,9 @@ TEST(WrappedText, TheLastLineTellsThatThereIsMoreAndKeepsTheEnd) {
   EXPECT_TRUE(lines.last().contains(Ellipsis));
   EXPECT_TRUE(lines.last().endsWith("ven"));
   EXPECT_LE(QFontMetrics(font).horizontalAdvance(lines.last()), width);
-}
-
-TEST(WrappedText, ASingleLineKeepsWhatFollowsTheName) {
-  const QString name(100, 'e');
-  EXPECT_TRUE(WrapText(name + " bids 10", WindowFont(), 150, 1).first().endsWith("bids 10"));
-}
-
-TEST(WrappedText, AnythingHasAtLeastOneLine) {
-  for (const char* text : {"", " ", "x"})
-    EXPECT_EQ(WrapText(text, WindowFont(), 100, 3).size(), 1) << text;
+  const QString bid = QString(100, 'e') + " bids 10";
+  EXPECT_TRUE(WrapText(bid, font, 150, 1).first().endsWith("bids 10"));
+  for (const char* text : {"", " ", "x"}) EXPECT_EQ(WrapText(text, font, 100, 3).size(), 1) << text;
 }
 
 }  // namespace

@@ -1,9 +1,9 @@
 #include "WindowGame.h"
 
+#include <cmath>
 #include <stdexcept>
 
 #include <QApplication>
-#include <QMouseEvent>
 #include <QTest>
 
 #include "engine/Generator.h"
@@ -12,17 +12,17 @@
 #include "table/TableEvents.h"
 
 namespace Parlino {
-namespace {
-
-constexpr int PlayersRowTop = 440;
-constexpr QPoint SpotOfCard(8, 48);  // visible even if the next card covers the rest
-
-}  // namespace
 
 void QuickPlatform::WaitForQt(std::uint32_t atMostMs) {
   person();
   if (atMostMs != Forever) ticks += atMostMs;
   QtPlatform::WaitForQt(0);
+}
+
+double QuickPlatform::ClockSeconds() {
+  constexpr double secondsInDay = 86'400;
+  constexpr double msInSecond = 1000;
+  return std::fmod(clockAtStart + ticks / msInSecond, secondsInDay);
 }
 
 WindowGame::WindowGame(std::uint64_t seed) : platform(folder.path().toStdString()) {
@@ -72,16 +72,6 @@ void PressKey(Qt::Key key, Qt::KeyboardModifiers modifiers) {
 
 QDialog* OpenBox() {
   return qobject_cast<QDialog*>(QApplication::activeModalWidget());
-}
-
-void CardClicker::ClickNext() {
-  for (int tried = 0; tried < CardsInPack; ++tried) {
-    next_ = next_ % CardsInPack + 1;
-    QWidget& card = WindowGame::FindMember("Cds", next_);
-    if (!card.isVisible() || card.y() != PlayersRowTop) continue;
-    QTest::mouseClick(&card, Qt::LeftButton, {}, SpotOfCard);
-    return;
-  }
 }
 
 }  // namespace Parlino

@@ -1,5 +1,5 @@
-// A game in a real window, for the tests and the long runs. Time is virtual: a pause is over as
-// soon as Qt has done its work.
+// A game in a real window, for the tests and the long runs. Time and clock are virtual: a pause is
+// over as soon as Qt has done its work.
 #pragma once
 
 #include <functional>
@@ -13,6 +13,9 @@
 
 namespace Parlino {
 
+// How long a test waits for what must happen, however busy the machine is.
+inline constexpr int PatienceMs = 120'000;
+
 // Thrown by a script that has seen enough.
 struct SeenEnough {};
 
@@ -25,8 +28,11 @@ class QuickPlatform : public QtPlatform {
   // model.
   std::function<void()> person = [] {};
   std::uint32_t ticks = 0;
+  // Of the clock on the wall, which is mixed into the deals.
+  double clockAtStart = 43'200;
 
   std::uint32_t Ticks() override { return ticks; }
+  double ClockSeconds() override;
 
  protected:
   void WaitForQt(std::uint32_t atMostMs) override;
@@ -57,15 +63,5 @@ void PressKey(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
 // The plain box or text-input box that is open, or none.
 QDialog* OpenBox();
-
-// Clicks on the cards of the Player's hand one after the other, like a person who has to find out
-// which of them may be played.
-class CardClicker {
- public:
-  void ClickNext();
-
- private:
-  int next_ = 0;
-};
 
 }  // namespace Parlino

@@ -1,5 +1,5 @@
-// An automatic South at the real window: looks at the table, moves and clicks the mouse like a
-// person, and saves pictures along the way.
+// A person who plays one hand in the real window, as a robot would, and saves pictures along the
+// way.
 #pragma once
 
 #include <filesystem>
@@ -10,33 +10,40 @@
 #include <QElapsedTimer>
 #include <QObject>
 
-class QWidget;
+#include "table/window/QtPlatform.h"
+#include "tests/window/PersonAtWindow.h"
 
 namespace Parlino {
+
+// A person looks before every click.
+inline constexpr int ThinkingMs = 600;
 
 class Demonstrator : public QObject {
  public:
   // Pictures go into `folder`; if it is empty, none are saved.
-  explicit Demonstrator(std::filesystem::path folder);
+  explicit Demonstrator(std::filesystem::path folder, int thinkingMs = ThinkingMs);
 
-  [[nodiscard]] const std::vector<std::string>& Pictures() const { return pictures_; }
-  // The lines of the list of cards played, as they were when the hand was scored.
-  [[nodiscard]] const std::vector<std::string>& CardsPlayed() const { return cardsPlayed_; }
+  // Prints the lines of the list of cards played and the names of the pictures, and returns whether
+  // the hand was played to its end.
+  [[nodiscard]] bool Report() const;
 
  protected:
   void timerEvent(QTimerEvent* event) override;
 
  private:
-  void Act();
-  void LeaveWithScore();
   void TakePicture(const char* name);
-  bool HasPicture(const char* name) const { return taken_.contains(name); }
 
+  PersonAtWindow person_;
   QElapsedTimer clock_;
   std::filesystem::path folder_;
   std::set<std::string> taken_;
   std::vector<std::string> pictures_;
   std::vector<std::string> cardsPlayed_;
 };
+
+// Plays a hand worth looking at in the window of the platform, whose folder is the one for the
+// pictures. Returns the exit status.
+int Demonstrate(QtPlatform& platform, const std::filesystem::path& folder,
+                int thinkingMs = ThinkingMs);
 
 }  // namespace Parlino

@@ -11,11 +11,9 @@
 #include "engine/TrickFlow.h"
 #include "game/Game.h"
 #include "headless/Headless.h"
+#include "headless/South.h"
 #include "table/MessageDialog.h"
-#include "table/TableEvents.h"
-#include "table/TableView.h"
 #include "tools/selfplay/Options.h"
-#include "tools/selfplay/South.h"
 #include "tools/selfplay/Transcript.h"
 
 namespace Parlino {
@@ -37,26 +35,26 @@ struct TeamFigures {
 class Session {
  public:
   Session(const SelfPlayOptions& options, std::ostream* transcript)
-      : options_(options), south_(options.south, options.seed) {
+      : options_(options), south_(options.hands) {
+    options.isSouthARobot ? PlayAsRobot(south_) : PlayAtRandom(south_, options.seed);
+    south_.onDialog = [this] { OnDialog(); };
     if (transcript == nullptr) return;
     transcript_.emplace(*transcript);
     transcript_->WriteHeader(options.seed, options.hands,
-                             options.south == SouthKind::Robot ? "robot" : "random");
+                             options.isSouthARobot ? "robot" : "random");
   }
 
   void OnEvents(std::uint32_t atMostMs) {
     if (transcript_) transcript_->Look();
-    if (atMostMs != Forever) return;
-    if (MFormDeluxe.Visible)
-      AnswerDialog();
-    else if (!south_.Act())
-      ChooseMenu(hands_ < options_.hands ? MenuItem::MnuNew : MenuItem::MnuExit);
+    south_.OnEvents(atMostMs);
   }
 
   // A hand that ends in an error still counts as played.
   void OnMsgBox(std::string_view text) {
     if (text.starts_with("Unexpected error")) ++errors_;
-    if (text.starts_with(" the hand is over")) EndHand(false);
+    if (!text.starts_with(" the hand is over")) return;
+    EndHand(false);
+    south_.CountHand();
   }
 
   void Print(double seconds) const {
@@ -70,13 +68,9 @@ class Session {
   }
 
  private:
-  void AnswerDialog() {
-    if (MFormDeluxe.Label3 == "   Really Exit?") {
-      ClickAnswer(0);
-      return;
-    }
-    EndHand(MFormDeluxe.Label3 == "   Game Over");
-    ClickAnswer(hands_ < options_.hands ? 0 : 1);
+  void OnDialog() {
+    const bool isGameOver = MFormDeluxe.Label3 == "   Game Over";
+    if (isGameOver || MFormDeluxe.Label3 == "   Scores") EndHand(isGameOver);
   }
 
   void EndHand(bool gameOver) {

@@ -5,9 +5,9 @@
 namespace Parlino {
 namespace {
 
-bool TakeSouth(std::string_view text, SouthKind& south) {
+bool TakeSouth(std::string_view text, bool& isRobot) {
   if (text != "random" && text != "robot") return false;
-  south = text == "robot" ? SouthKind::Robot : SouthKind::Random;
+  isRobot = text == "robot";
   return true;
 }
 
@@ -23,7 +23,8 @@ std::optional<SelfPlayOptions> ParseOptions(int count, const char* const* argume
       count, arguments,
       {{"--hands", TakeNumber(options.hands, 1)},
        {"--seed", TakeNumber(options.seed)},
-       {"--south", [&options](std::string_view text) { return TakeSouth(text, options.south); },
+       {"--south",
+        [&options](std::string_view text) { return TakeSouth(text, options.isSouthARobot); },
         false},
        {"--transcript", takeTranscript, false}});
   return understood ? std::optional(options) : std::nullopt;

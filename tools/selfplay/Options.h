@@ -5,15 +5,13 @@
 #include <optional>
 #include <string>
 
-#include "tools/selfplay/South.h"
-
 namespace Parlino {
 
 struct SelfPlayOptions {
   int hands = 0;
   std::uint64_t seed = 0;
-  SouthKind south = SouthKind::Random;
-  std::string transcript;  // a file name; empty for none
+  bool isSouthARobot = false;  // or one who plays at random
+  std::string transcript;      // a file name; empty for none
 };
 
 // Returns nothing if the command line cannot be understood.
