@@ -65,12 +65,12 @@ def start_bus(folder):
 class ScreenReader:
     """Listens to one program. Events are taken in while it waits or reads.
 
-    A line written to `pauses` ends the pause that the program is in, if it needs to be told."""
+    `end_pause` ends the pause that the program is in, if it needs to be told."""
 
-    def __init__(self, process_id, pauses=None):
+    def __init__(self, process_id, end_pause=None):
         self.process_id = process_id
         self.program = None
-        self._pauses = pauses
+        self._end_pause = end_pause
         self.events = []
         self._waiting = []
         Atspi.set_timeout(PATIENCE_MS, PATIENCE_MS)
@@ -92,24 +92,21 @@ class ScreenReader:
             GLib.MainContext.default().iteration(False)
             for _ in range(min(len(self._waiting), MOST_AT_ONCE)):
                 self._read(self._waiting.pop(0))
-            if seconds > 0:
-                self._end_pause()
+            if seconds > 0 and self._end_pause and self.program:
+                self._end_heard_pause()
             if time.monotonic() >= until:
                 return
-            if not self._waiting and not self._pauses:
+            if not self._waiting and not self._end_pause:
                 time.sleep(0.005)
 
     # What the program told before it gives an answer arrives before the answer.
-    def _end_pause(self):
-        if self._pauses is None or self.program is None or self._waiting:
-            return
+    def _end_heard_pause(self):
         try:
             self.program.get_child_count()
             while GLib.MainContext.default().iteration(False):
                 pass
             if not self._waiting:
-                self._pauses.write(b"\n")
-                self._pauses.flush()
+                self._end_pause()
         except (GLib.Error, BrokenPipeError):
             pass  # the program has ended
 
@@ -132,7 +129,7 @@ class ScreenReader:
                 found = None  # a part went away while it was looked at
             if found:
                 return found
-            self.listen(0.5 if self._pauses else 0.1)
+            self.listen(0.5 if self._end_pause else 0.1)
         raise Failure(f"{what} (waited {seconds} s)")
 
     def parts(self, below=None, hidden_too=False):

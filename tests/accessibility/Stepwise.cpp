@@ -1,5 +1,5 @@
 // The game for a listener who must miss nothing, however busy the machine is: each of its pauses
-// ends when a line comes from the standard input, and none lasts longer than that.
+// ends when a line comes from the standard input, which is answered by one, and none lasts longer.
 //
 //   parlino-stepwise FOLDER
 #include <unistd.h>
@@ -22,6 +22,7 @@ class StepwisePlatform : public Parlino::QtPlatform {
     QObject::connect(&lines_, &QSocketNotifier::activated, [this] { TakeLines(); });
   }
   std::uint32_t Ticks() override { return ticks_; }
+  double ClockSeconds() override { return ticks_ / msInSecond; }  // or each hand would be another
 
  protected:
   void WaitForQt(std::uint32_t atMostMs) override {
@@ -31,9 +32,11 @@ class StepwisePlatform : public Parlino::QtPlatform {
   }
 
  private:
+  static constexpr double msInSecond = 1000;
+
   void TakeLines() {
     char lines[100];
-    hasLine_ = ::read(STDIN_FILENO, lines, sizeof lines) > 0;
+    hasLine_ = ::read(STDIN_FILENO, lines, sizeof lines) > 0 && ::write(STDOUT_FILENO, "\n", 1) > 0;
     lines_.setEnabled(hasLine_);
   }
 
