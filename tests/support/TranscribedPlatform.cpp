@@ -128,7 +128,8 @@ std::string TranscribedPlatform::ReadFile(std::string_view fileName) {
 
 std::string TranscribedPlatform::ReplaceFile(std::string_view fileName, std::string_view content) {
   Note("writes " + std::string(fileName) + " " + Quote(content));
-  return HeadlessPlatform::ReplaceFile(fileName, content);
+  const std::string none = HeadlessPlatform::ReplaceFile(fileName, content);
+  return unreadFiles.erase(std::string(fileName)) == 0 ? none : std::string(fileName) + ".bad";
 }
 
 std::string TranscribedPlatform::SetFileAside(std::string_view fileName) {

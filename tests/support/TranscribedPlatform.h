@@ -1,6 +1,7 @@
 // The platform without a window that writes down what a player sees and hears.
 #pragma once
 
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,6 +21,8 @@ class TranscribedPlatform : public HeadlessPlatform {
   // the player is waited for, or of the table nothing but the status bar.
   enum class Detail { EveryPause, EveryWait, StatusBar };
   Detail detail = Detail::EveryPause;
+  // Files that could not be read at the start and are kept under another name when they are replaced.
+  std::set<std::string, std::less<>> unreadFiles;
 
   // To be called when the game is set up. What the table looks like then is written down, or only
   // kept in mind.
