@@ -1,6 +1,6 @@
 // parlino-window-tests: the tests of the window.
 //
-//   parlino-window-tests --accept     keeps the pictures of the table as it is drawn now
+//   parlino-window-tests --accept     keeps what the scenes and pictures show now
 #include <csignal>
 #include <gtest/gtest.h>
 #include <iostream>

@@ -1,14 +1,11 @@
 // Whole hands and games, played in every way.
 #include <gtest/gtest.h>
 
-#include <QAbstractItemModel>
 #include <QApplication>
-#include <QListView>
 
 #include "PersonAtWindow.h"
 #include "WindowGame.h"
 #include "engine/state/GameState.h"
-#include "table/CardDisplay.h"
 
 namespace Parlino {
 namespace {
@@ -35,20 +32,8 @@ TEST(Play, AWholeHandCanBePlayedByTools) {
 TEST(Play, AWholeHandCanBePlayedByMouse) {
   WindowGame game;
   PersonAtWindow person;
-  int mostLines = 0;
-  const int status = game.Run([&] {
-    const auto& list = dynamic_cast<QListView&>(game.Find("LstCardsPlayed"));
-    const int lines = list.model()->rowCount();
-    mostLines = std::max(mostLines, lines);
-    if (lines > 0) {
-      EXPECT_TRUE(
-          list.viewport()->rect().intersects(list.visualRect(list.model()->index(lines - 1, 0))));
-    }
-    person.Act();
-  });
-  EXPECT_EQ(status, 0);
-  EXPECT_EQ(mostLines, 65);
-  EXPECT_EQ(TrickNumber, 13);
+  EXPECT_EQ(game.Run([&] { person.Act(); }), 0);
+  EXPECT_EQ(TrickNumber, TricksInHand);
   EXPECT_NE(game.platform.ReadFile("SaveGame.dat"), "0,0,#FALSE#\r\n");
 }
 

@@ -17,6 +17,7 @@
 #include "PersonAtWindow.h"
 #include "Pictures.h"
 #include "SceneSteps.h"
+#include "table/window/painting/Design.h"
 
 namespace Parlino {
 namespace {
@@ -106,7 +107,9 @@ void TellScores(Words& words) {
 QString FormatText(const QTextBlock& block) {
   const QTextBlockFormat format = block.blockFormat();
   const QTextCharFormat letters = block.begin().fragment().charFormat();
-  QStringList text{letters.fontFamilies().toStringList().value(0)};
+  QStringList text;
+  const QStringList families = letters.fontFamilies().toStringList();
+  if (families != TextFamilies()) text << families.join("/");
   const auto add = [&text](const char* name, double value, double usual = 0) {
     if (value != usual) text << QString("%1 %2").arg(name).arg(value);
   };
@@ -169,7 +172,7 @@ const Steps Questions = {
        QWidget& part = words.Part();
        ExpectAsKept(part, words.Next());
      }},
-    {"places",
+    {"places?",
      [](Words& words) {
        for (const QString& line : TellPlaces(words.Part())) words.Tell(line);
      }},

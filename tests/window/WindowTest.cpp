@@ -5,10 +5,12 @@
 #include <QEvent>
 #include <QScreen>
 #include <QTest>
+#include <QTextDocument>
 
 #include "WindowGame.h"
 #include "table/TableEvents.h"
 #include "table/TableView.h"
+#include "table/window/help/DocumentWriter.h"
 #include "table/window/painting/Pictures.h"
 
 namespace Parlino {
@@ -29,6 +31,12 @@ TEST(Window, NoPictureIsMissingAtAnyRatio) {
     EXPECT_TRUE(hasPixels(SmallBack(ratio)));
   }
   EXPECT_TRUE(hasPixels(IconPicture(48)));
+}
+
+TEST(Window, SaysThatADocumentGoesOn) {
+  QTextDocument target;
+  WriteDocument({.Blocks = {}, .IsCut = true}, 1, target);
+  EXPECT_TRUE(target.toPlainText().startsWith("The document goes on"));
 }
 
 // Counts what is painted in the window and all its children.
