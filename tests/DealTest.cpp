@@ -40,30 +40,6 @@ TEST(Deal, DrawsTheOneCardThatIsLeft) {
   }
 }
 
-TEST(Deal, GivesEachSeatAQuarterOfTheFirstDeals) {
-  const HeadlessGame game;
-  Indexed<int, 0, 3> dealers;
-  for (int games = 0; games < 4000; ++games) {
-    GameInProgress = False;
-    GetDealer();
-    ++dealers[Dealer];
-  }
-  for (const int count : dealers) EXPECT_NEAR(count, 1000, 120);
-}
-
-TEST(Generator, GoesOnWithinOneTickOfTheClockAndRepeatsBySeed) {
-  const HeadlessGame game;
-  float drawn[4];
-  for (int draw = 0; draw < 4; ++draw) {
-    if (draw != 1) DealGenerator.Seed(draw == 3 ? 4 : 3);
-    MixClockIntoGenerator();
-    drawn[draw] = NextRandom();
-  }
-  EXPECT_NE(drawn[1], drawn[0]);
-  EXPECT_EQ(drawn[2], drawn[0]);
-  EXPECT_NE(drawn[3], drawn[0]);
-}
-
 // It stands still, at midnight too, is set back at every draw, or jumps over midnight.
 TEST(Deal, NeedsNoClockThatGoesOn) {
   for (const auto clock : {+[](int) { return 43'200.0; }, +[](int) { return 0.0; },

@@ -65,8 +65,9 @@ struct GameOnDisk {
   [[nodiscard]] bool ToldOf(std::string_view content) const {
     constexpr std::string_view words = " is kept as ";
     return std::ranges::any_of(platform.record, [&](const std::string& line) {
-      const std::size_t place = line.find(words);
-      return place != line.npos && ReadText(line.substr(place + words.size())) == content;
+      if (line.find(words) == line.npos) return false;
+      const std::size_t name = line.find(words) + words.size();
+      return ReadText(line.substr(name, line.find('"', name) - name)) == content;
     });
   }
 
