@@ -188,6 +188,11 @@ const Steps Questions = {
        TellMenu(words, "", WindowGame::Find("FrmMain").findChild<QMenuBar*>()->actions());
      }},
     {"voices?", TellVoices},
+    {"place-for-tools?",
+     [](Words& words) {
+       const Voice voice = VoiceOf(words.Part().objectName());
+       words.Tell(voice->rect().isEmpty() ? "it has none" : "it has one");
+     }},
     {"scores?", TellScores},
     {"blocks?", TellBlocks},
     {"clipboard?", [](Words& words) { words.Tell(QApplication::clipboard()->text()); }},

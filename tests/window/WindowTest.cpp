@@ -29,9 +29,7 @@ TEST(Window, NoPictureIsMissingAtAnyRatio) {
       EXPECT_EQ(CardPicture(picture, ratio).deviceIndependentSize().toSize(), PictureSize(picture));
     }
     for (const int number : {1, 2, 3}) EXPECT_TRUE(hasPixels(MessagePicture(number, ratio)));
-    EXPECT_TRUE(hasPixels(SmallBack(ratio)));
   }
-  EXPECT_TRUE(hasPixels(IconPicture(48)));
 }
 
 TEST(Window, SaysThatADocumentGoesOn) {
