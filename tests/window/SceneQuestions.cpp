@@ -125,7 +125,7 @@ QString FormatText(const QTextBlock& block) {
   add("lines", format.lineHeight(), 112);
   add("aligned", format.alignment().toInt(), Qt::AlignLeft);
   add("heading", format.headingLevel());
-  for (const QTextOption::Tab& tab : format.tabPositions()) add("tab", tab.position);
+  for (const QTextOption::Tab& tab : format.tabPositions()) add("tab", tab.position, -1);
   if (letters.foreground().style() != Qt::NoBrush) text << letters.foreground().color().name();
   if (letters.fontItalic()) text << "italic";
   if (letters.fontUnderline()) text << "underlined";
