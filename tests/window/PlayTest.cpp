@@ -17,24 +17,18 @@ TEST(Play, AWholeGameCanBePlayedByKeys) {
     return QApplication::activeModalWidget()->windowTitle() == "Game Over" ? 1 : 0;
   };
   EXPECT_EQ(game.Run([&] { person.Act(); }), 0);
-  EXPECT_GE(person.answers, 3);
   EXPECT_EQ(GamesPlayed, 1);
   EXPECT_EQ(game.platform.ReadFile("SaveGame.dat"), "0,0,#FALSE#\r\n");
 }
 
-TEST(Play, AWholeHandCanBePlayedByTools) {
-  WindowGame game;
-  PersonAtWindow person(PersonAtWindow::Means::AssistiveTools);
-  EXPECT_EQ(game.Run([&] { person.Act(); }), 0);
-  EXPECT_EQ(person.cards, TricksInHand);
-}
-
-TEST(Play, AWholeHandCanBePlayedByMouse) {
-  WindowGame game;
-  PersonAtWindow person;
-  EXPECT_EQ(game.Run([&] { person.Act(); }), 0);
-  EXPECT_EQ(TrickNumber, TricksInHand);
-  EXPECT_NE(game.platform.ReadFile("SaveGame.dat"), "0,0,#FALSE#\r\n");
+TEST(Play, AWholeHandCanBePlayedByMouseAndByTools) {
+  for (const auto means : {PersonAtWindow::Means::Mouse, PersonAtWindow::Means::AssistiveTools}) {
+    WindowGame game;
+    PersonAtWindow person(means);
+    EXPECT_EQ(game.Run([&] { person.Act(); }), 0);
+    EXPECT_EQ(TrickNumber, TricksInHand);
+    EXPECT_NE(game.platform.ReadFile("SaveGame.dat"), "0,0,#FALSE#\r\n");
+  }
 }
 
 }  // namespace

@@ -75,15 +75,14 @@ ScenePlayer::ScenePlayer(const QStringList& lines)
   game.platform.onSound = [this](const std::string& file) {
     Tell("sound " + QString::fromStdString(file));
   };
-  focusWatch_ =
-      QObject::connect(qApp, &QApplication::focusChanged, [this](QWidget*, QWidget* focus) {
-        if (focus != nullptr) way_ << NameOfPart(*focus);
-      });
+  QObject::connect(qApp, &QApplication::focusChanged, &focusWatch_,
+                   [this](QWidget*, QWidget* focus) {
+                     if (focus != nullptr) way_ << NameOfPart(*focus);
+                   });
 }
 
 ScenePlayer::~ScenePlayer() {
   thePlayer = nullptr;
-  QObject::disconnect(focusWatch_);
   if (QApplication::style()->name() != style_) QApplication::setStyle(style_);
   QApplication::setPalette(palette_);
   QApplication::setFont(font_);

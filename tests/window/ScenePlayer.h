@@ -20,8 +20,6 @@ class ScenePlayer {
  public:
   // The lines of one scene, without what came of them.
   explicit ScenePlayer(const QStringList& lines);
-  ScenePlayer(const ScenePlayer&) = delete;
-  ScenePlayer& operator=(const ScenePlayer&) = delete;
   ~ScenePlayer();
 
   // Plays it in a game of its own and returns the lines, under each what came of it.
@@ -47,16 +45,13 @@ class ScenePlayer {
 
   QStringList lines_;
   QStringList steps_;  // of the present line
-  QStringList out_;
-  QStringList told_;
+  QStringList out_, told_, voices_;
   WindowLook look_;
-  QStringList voices_;
   QStringList way_;  // of the focus
   std::optional<SpokenChanges> tools_;
   QPointer<QWidget> withKeys_;
-  QMetaObject::Connection focusWatch_;
-  int pace_ = 5;
-  int waits_ = 5;
+  QObject focusWatch_;
+  int pace_ = 5, waits_ = 5;
   bool isSilent_ = true;
   bool isPressed_ = false;  // by a key, which keeps a button down for a moment
   const QString style_;

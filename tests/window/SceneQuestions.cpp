@@ -27,7 +27,9 @@ void TellTip(Words& words) {
 }
 
 void TellTipThatGoes(Words& words) {
-  if (QTest::qWaitFor([] { return !QToolTip::isVisible(); }, PatienceMs)) TellTip(words);
+  constexpr int lessThanATipStays = 5'000;
+  const bool goes = QTest::qWaitFor([] { return !QToolTip::isVisible(); }, lessThanATipStays);
+  words.Tell(goes ? "the tip goes" : "the tip stays");
 }
 
 void TellWindows(Words& words) {
@@ -123,7 +125,7 @@ QString FormatText(const QTextBlock& block) {
   add("lines", format.lineHeight(), 112);
   add("aligned", format.alignment().toInt(), Qt::AlignLeft);
   add("heading", format.headingLevel());
-  for (const QTextOption::Tab& tab : format.tabPositions()) add("tab", tab.position);
+  for (const QTextOption::Tab& tab : format.tabPositions()) add("tab", tab.position, -1);
   if (letters.foreground().style() != Qt::NoBrush) text << letters.foreground().color().name();
   if (letters.fontItalic()) text << "italic";
   if (letters.fontUnderline()) text << "underlined";
@@ -186,6 +188,11 @@ const Steps Questions = {
        TellMenu(words, "", WindowGame::Find("FrmMain").findChild<QMenuBar*>()->actions());
      }},
     {"voices?", TellVoices},
+    {"place-for-tools?",
+     [](Words& words) {
+       const Voice voice = VoiceOf(words.Part().objectName());
+       words.Tell(voice->rect().isEmpty() ? "it has none" : "it has one");
+     }},
     {"scores?", TellScores},
     {"blocks?", TellBlocks},
     {"clipboard?", [](Words& words) { words.Tell(QApplication::clipboard()->text()); }},

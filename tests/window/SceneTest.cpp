@@ -24,10 +24,10 @@ TEST_P(Scenes, AreAsKept) {
   }
   const auto [keptEnd, nowEnd] = std::ranges::mismatch(kept, now);
   const qsizetype line = keptEnd - kept.begin();
-  const qsizetype first = std::max<qsizetype>(0, line - 4);
   EXPECT_TRUE(kept == now) << "another from line " << line + 1 << " on\n--- expected\n"
-                           << kept.mid(first, 10).join('\n').toStdString() << "\n--- actual\n"
-                           << now.mid(first, 10).join('\n').toStdString();
+                           << kept.mid(std::max(0LL, line - 4), 10).join('\n').toStdString()
+                           << "\n--- actual\n"
+                           << now.mid(std::max(0LL, line - 4), 10).join('\n').toStdString();
 }
 
 std::vector<std::string> NamesOfScenes() {

@@ -131,6 +131,7 @@ PartLook LookAtPart(const QWidget& widget) {
   if (view == nullptr) return look;
   look["picture"] = TellPicture(*view);
   look["pointer"] = TellPointer(widget);
+  look["under"] = widget.underMouse() ? "the mouse" : "";
   return look;
 }
 
@@ -200,6 +201,8 @@ void LookAtWindow(const QWidget& window, WindowLook& look) {
   if (const auto* room = window.findChild<ScrolledTable*>())
     look["FrmMain"].merge(PartLook{{"scrolled down", TellBar(*room->verticalScrollBar())},
                                    {"scrolled sideways", TellBar(*room->horizontalScrollBar())}});
+  const auto* more = window.findChild<QWidget*>("qt_menubar_ext_button");
+  if (more != nullptr && more->isVisible()) look["FrmMain"]["menus"] = "behind a button";
   if (window.objectName() == "frmAbout") return;
   for (const QWidget* widget : window.findChildren<QWidget*>())
     if (widget->window() == &window && widget->isVisible() && !HasNoName(*widget))

@@ -10,6 +10,7 @@
 #include "WindowGame.h"
 #include "table/TableEvents.h"
 #include "table/TableView.h"
+#include "table/window/desktop/WindowPlace.h"
 #include "table/window/help/DocumentWriter.h"
 #include "table/window/painting/Pictures.h"
 
@@ -28,9 +29,7 @@ TEST(Window, NoPictureIsMissingAtAnyRatio) {
       EXPECT_EQ(CardPicture(picture, ratio).deviceIndependentSize().toSize(), PictureSize(picture));
     }
     for (const int number : {1, 2, 3}) EXPECT_TRUE(hasPixels(MessagePicture(number, ratio)));
-    EXPECT_TRUE(hasPixels(SmallBack(ratio)));
   }
-  EXPECT_TRUE(hasPixels(IconPicture(48)));
 }
 
 TEST(Window, SaysThatADocumentGoesOn) {
@@ -62,6 +61,12 @@ TEST(Window, PaintsNothingWithoutAChange) {
   SetCaption(Table.LblInfo, {"news"});
   game.Turn();
   EXPECT_GT(paints.count, 0);
+}
+
+TEST(Window, ThatIsTooLargeIsMadeToFitTheScreen) {
+  QWidget window;
+  PutInMiddleOfScreen(window, {9'000, 9'000}, *window.screen());
+  EXPECT_EQ(window.size(), RoomForWindow(*window.screen()));
 }
 
 // Also run on a display with a window manager, whose frames are not the same on all sides.
