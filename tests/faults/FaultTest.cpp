@@ -156,6 +156,8 @@ Calls StartAndSave(const Disk& files, bool behindLinks, const Fault& fault) {
     EXPECT_TRUE(!isUnread || game.ToldOf(before.at(file))) << file << ": where is it?";
   }
   EXPECT_EQ(after.size(), before.size() + filesUnread);
+  EXPECT_TRUE(filesUnread == 0 || files != HandWritten || fault.number != EINTR ||
+              calls[fault.call - 1] != "read");
   EXPECT_TRUE(StartsWell(folder));
   return calls;
 }
@@ -182,8 +184,9 @@ TEST(ReadFaults, LeaveTheUnreadFileSomewhereWhenItsSavingFailsToo) {
       BeginFault({EIO, Manner::FromHere, 1});
       Events.Form_Load();
       BeginFault(fault);
-      SavePoints();
+      const bool isSaved = SavePoints();
       const Calls calls = EndFault();
+      EXPECT_TRUE(isSaved || calls[fault.call - 1] != "link") << "some disks have no links";
       EXPECT_TRUE(isThere());
       EXPECT_TRUE(SavePoints());
       EXPECT_TRUE(isThere());

@@ -61,7 +61,6 @@ void TryAtEveryCall(const std::vector<Fault>& faults,
 }  // namespace Parlino
 
 using Parlino::CallFails;
-using Parlino::Manner;
 
 // The linker's names.
 // NOLINTBEGIN(bugprone-reserved-identifier)
@@ -92,8 +91,8 @@ WRAP(int, unlink, (const char* path), (path))
 
 ssize_t __wrap_write(int file, const void* bytes, size_t count) {
   if (!CallFails("write")) return __real_write(file, bytes, count);
-  if (Parlino::faultInUse.manner == Manner::Bit) return __real_write(file, bytes, 1);
-  return Parlino::faultInUse.manner == Manner::Nothing ? 0 : -1;
+  if (Parlino::faultInUse.manner == Parlino::Manner::Bit) return __real_write(file, bytes, 1);
+  return Parlino::faultInUse.manner == Parlino::Manner::Nothing ? 0 : -1;
 }
 
 // As with the system's own, the number is free again even when it fails.

@@ -21,8 +21,7 @@ namespace fs = std::filesystem;
 
 // Of an entry of places.txt, or the number itself.
 mode_t PermissionsOf(const std::string& entry) {
-  constexpr int octal = 8;
-  return static_cast<mode_t>(std::stoi(entry.substr(entry.rfind(':') + 1), nullptr, octal));
+  return static_cast<mode_t>(std::stoi(entry.substr(entry.rfind(':') + 1), nullptr, 8));
 }
 
 // The system asks the administrator for no permission, who therefore plays as somebody else.
@@ -48,11 +47,9 @@ bool Make(const fs::path& root, const std::string& entry) {
          ::chmod(path.c_str(), PermissionsOf(permissions)) == 0;
 }
 
-using Entries = std::vector<std::string>;
-
 // Everything there.
-Entries Describe(const fs::path& root) {
-  Entries entries;
+std::vector<std::string> Describe(const fs::path& root) {
+  std::vector<std::string> entries;
   for (const auto& entry : fs::recursive_directory_iterator(root)) {
     const fs::file_status status = entry.symlink_status();
     if (status.type() == fs::file_type::directory) continue;
@@ -71,7 +68,7 @@ Entries Describe(const fs::path& root) {
   return entries;
 }
 
-Entries Split(const std::string& text) {
+std::vector<std::string> Split(const std::string& text) {
   std::istringstream words(text);
   return {std::istream_iterator<std::string>(words), {}};
 }

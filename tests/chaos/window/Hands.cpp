@@ -7,7 +7,6 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QInputMethodEvent>
-#include <QLineEdit>
 #include <QPointer>
 #include <QTest>
 #include <QWheelEvent>
@@ -18,6 +17,9 @@
 
 namespace Parlino {
 namespace {
+
+constexpr const char* HarmlessCommands[] = {"MnuRules", "MnuAbout",    "MnuPname",
+                                            "MnuView",  "MnuBot3Name", "ErasePoints"};
 
 // What a mouse can do, after the numbers that Qt's tests have for it.
 constexpr int TurnWheel = QTest::MouseMove + 1;
@@ -107,7 +109,6 @@ void UsePart(QWidget& part, Chaos& chaos) {
   if (part.isWindow() && person.Once(2)) return void(part.close());
   if (person.Once(4)) {
     part.setFocus();
-    if (qobject_cast<QLineEdit*>(&part) != nullptr) return WriteAnything(chaos);
     return Strike(person.OneOf(pressing));
   }
   const QPointer<QWidget> target(&part);
@@ -185,9 +186,9 @@ QWidgetList WindowsThere() {
 void UseByHand(const std::string& name, Chaos& chaos) {
   if (OpenBox() != nullptr && chaos.person.Once(2)) return UsePart(*AnyPart(chaos), chaos);
   QWidget& table = WindowGame::Find("FrmMain");
-  if (const auto* command = table.findChild<QAction*>(QString::fromStdString(name))) {
+  if (auto* command = table.findChild<QAction*>(QString::fromStdString(name))) {
     QApplication::setActiveWindow(&table);
-    return Strike(command->shortcut()[0]);
+    return command->shortcut().isEmpty() ? command->trigger() : Strike(command->shortcut()[0]);
   }
   for (QWidget* widget : QApplication::allWidgets())
     if (widget->objectName() == QString::fromStdString(name)) return UsePart(*widget, chaos);
@@ -198,7 +199,9 @@ void DoAnythingByHand(Chaos& chaos) {
     const char* name;
     int weight;
     void (*act)(Chaos& chaos);
-  } deeds[] = {{"use any part", 600, [](Chaos& same) { UsePart(*AnyPart(same), same); }},
+  } deeds[] = {{"choose a command", 200,
+                [](Chaos& same) { UseByHand(same.person.OneOf(HarmlessCommands), same); }},
+               {"use any part", 600, [](Chaos& same) { UsePart(*AnyPart(same), same); }},
                {"fumble anywhere", 300, FumbleAnywhere},
                {"strike any key", 300, StrikeAnyKey},
                {"write anything", 60, WriteAnything},

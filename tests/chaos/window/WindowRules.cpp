@@ -10,7 +10,6 @@
 #include "table/MessageDialog.h"
 #include "table/window/painting/Design.h"
 #include "table/window/painting/Named.h"
-#include "table/window/painting/Pictures.h"
 #include "table/window/parts/PictureView.h"
 #include "tests/chaos/TableRules.h"
 #include "tests/chaos/window/Hands.h"
@@ -67,10 +66,7 @@ void See(const QWidget& widget, ControlLook& look, bool nothingGlides) {
   const bool isPlaced = look.card != 0 || look.name.starts_with("LblName");
   if (isPlaced && nothingGlides && widget.pos() != ToPixels(look.place))
     look.place = {1.0 * widget.x() * TwipsInPixel, 1.0 * widget.y() * TwipsInPixel};
-  if (const auto* view = dynamic_cast<const PictureView*>(&widget)) {
-    const bool hasItsSize = view->Picture() == 0 || view->size() == PictureSize(view->Picture());
-    look.picture = hasItsSize ? view->Picture() : -1;
-  }
+  if (const auto* view = dynamic_cast<const PictureView*>(&widget)) look.picture = view->Picture();
 }
 
 // The look of the windows, beginning with that of the model.
