@@ -1,10 +1,8 @@
-// What only shows over many deals, and draws that no game can bring about.
+// What only shows over many deals.
 #include <gtest/gtest.h>
 #include <set>
 
 #include "engine/Deal.h"
-#include "engine/Generator.h"
-#include "engine/RoundDriver.h"
 #include "table/CardDisplay.h"
 #include "tests/support/HeadlessGame.h"
 
@@ -28,16 +26,6 @@ TEST(Deal, DealsEveryCardOnceAndTheAceOfSpadesLate) {
   EXPECT_GT(withDealer[52], deals * 29 / 100);
   for (int card = 1; card < CardsInPack; ++card)
     EXPECT_NEAR(withDealer[card], deals * 0.25, deals * 0.04) << "card " << card;
-}
-
-TEST(Deal, DrawsTheOneCardThatIsLeft) {
-  const HeadlessGame game;
-  for (const int left : {1, 26, 51, 52}) {
-    SetItUp();
-    for (Card& card : Pack) card.Owner = West;
-    Pack[left].Owner = NoSeat;
-    EXPECT_EQ(GetSingleCard(), left);
-  }
 }
 
 // It stands still, at midnight too, is set back at every draw, or jumps over midnight.
