@@ -27,6 +27,7 @@ class Run {
     PlayAsRobot(south_);
     south_.onDialog = [this] { EndHand(); };
     platform.script = [this](std::uint32_t atMostMs) { south_.OnEvents(atMostMs); };
+    platform.wakesScriptInPauses = false;
     platform.onMsgBox = [this](std::string_view) { ++reports_; };
     std::puts("   hands  resident KiB  data KiB  deepest nesting  us a hand  error reports");
   }

@@ -35,6 +35,7 @@ void PlayHand(benchmark::State& state) {
       ChooseMenu(MenuItem::MnuNew);
     }
   };
+  platform.wakesScriptInPauses = false;
   SetUpGame(platform);
   DealGenerator.Seed(Seed);
   RunGame();

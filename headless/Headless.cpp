@@ -33,6 +33,13 @@ HeadlessPlatform::HeadlessPlatform() {
 }
 
 void HeadlessPlatform::ProcessEvents(std::uint32_t atMostMs) {
+  if (atMostMs == Forever) return WaitForScript();
+  const std::uint32_t start = ticks;
+  if (wakesScriptInPauses) WakeScript(atMostMs);
+  if (ticks - start < atMostMs) ticks = start + atMostMs;
+}
+
+void HeadlessPlatform::WakeScript(std::uint32_t atMostMs) {
   struct Level {
     explicit Level(int& depth) : depth_(depth) { ++depth_; }
     Level(const Level&) = delete;
@@ -41,17 +48,13 @@ void HeadlessPlatform::ProcessEvents(std::uint32_t atMostMs) {
     int& depth_;
   } const level(depth);
   deepest = std::max(deepest, depth);
-
-  if (atMostMs == Forever) return WaitForScript();
-  const std::uint32_t start = ticks;
   script(atMostMs);
-  if (ticks - start < atMostMs) ticks = start + atMostMs;
 }
 
 void HeadlessPlatform::WaitForScript() {
   const std::uint64_t changesBefore = Table.Changes;
   const bool dialogBefore = MFormDeluxe.Visible;
-  script(Forever);
+  WakeScript(Forever);
   const bool nothingHappened =
       Table.Changes == changesBefore && MFormDeluxe.Visible == dialogBefore;
   idleCalls_ = nothingHappened ? idleCalls_ + 1 : 0;
@@ -61,10 +64,6 @@ void HeadlessPlatform::WaitForScript() {
 double HeadlessPlatform::ClockSeconds() {
   if (clock) return clock();
   return static_cast<double>((std::uint64_t{clockAtStart} + ticks) % MsInDay) * 0.001;
-}
-
-void HeadlessPlatform::Record(Pieces line) {
-  if (keepsRecord) record.push_back(JoinText(line));
 }
 
 void HeadlessPlatform::StartSound(std::string_view fileName) {

@@ -27,6 +27,8 @@ class HeadlessPlatform : public Platform {
   // Called whenever the game processes events, with the time that it would wait. The script looks
   // at the table as a person would and fires events through the table's doors.
   std::function<void(std::uint32_t atMostMs)> script = [](std::uint32_t) {};
+  // Whether the script has anything to do in a pause, or only when the game waits for the person.
+  bool wakesScriptInPauses = true;
   // How often the game may wait in vain before the script counts as finished.
   int mostIdleCalls = 100;
   // Answers a text-input box; if it is not set, the default is accepted with OK.
@@ -89,9 +91,13 @@ class HeadlessPlatform : public Platform {
 
  protected:
   // Adds a line to the record.
-  virtual void Record(Pieces line);
+  virtual void Keep(std::string line) { record.push_back(std::move(line)); }
 
  private:
+  void Record(Pieces line) {
+    if (keepsRecord) Keep(JoinText(line));
+  }
+  void WakeScript(std::uint32_t atMostMs);
   void WaitForScript();
 
   int idleCalls_ = 0;

@@ -104,9 +104,8 @@ std::string TranscribedPlatform::ReplaceFile(std::string_view fileName, std::str
   return unreadFiles.erase(std::string(fileName)) == 0 ? none : std::string(fileName) + ".bad";
 }
 
-void TranscribedPlatform::Record(Pieces line) {
-  const std::string text = JoinText(line);
-  if (detail == Detail::EveryPause || !text.starts_with("sound ")) Note(ShowLineEnds(text));
+void TranscribedPlatform::Keep(std::string line) {
+  if (detail == Detail::EveryPause || !line.starts_with("sound ")) Note(ShowLineEnds(line));
 }
 
 }  // namespace Parlino

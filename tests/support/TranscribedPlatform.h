@@ -15,6 +15,8 @@ namespace Parlino {
 
 class TranscribedPlatform : public HeadlessPlatform {
  public:
+  TranscribedPlatform() { keepsRecord = true; }
+
   // One line for each change of the table, sound, box, file and pause, in their order.
   std::vector<std::string> transcript;
   // Whether the table and the sounds are written down at every pause, only the table and only when
@@ -35,7 +37,7 @@ class TranscribedPlatform : public HeadlessPlatform {
   std::string ReplaceFile(std::string_view fileName, std::string_view content) override;
 
  protected:
-  void Record(Pieces line) override;
+  void Keep(std::string line) override;
 
  private:
   void NoteChanges();

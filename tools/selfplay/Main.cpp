@@ -103,6 +103,7 @@ int Play(const SelfPlayOptions& options, std::ostream* transcript) {
   HeadlessPlatform platform;
   Session session(options, transcript);
   platform.script = [&session](std::uint32_t atMostMs) { session.OnEvents(atMostMs); };
+  platform.wakesScriptInPauses = transcript != nullptr;
   platform.onMsgBox = [&session](std::string_view text) { session.OnMsgBox(text); };
   SetUpGame(platform);
   DealGenerator.Seed(options.seed);
