@@ -13,17 +13,11 @@
 namespace Parlino {
 namespace {
 
-bool LiesInPlayersRow(int card) {
-  const PictureBox& picture = Table.Cds[card];
-  constexpr double playersRow = 6600;  // twips
-  return (picture.Picture == card) & picture.Visible & (picture.Place.Top == playersRow);
-}
-
+// Nothing else on the table lies at the height of the Player's row.
 CardSet HandOnTable() {
-  CardSet hand;
-  for (int suit = Diamonds; suit <= Spades; ++suit)
-    hand = hand | CardSet::OfSuit(FirstCardOf(suit), LiesInPlayersRow);
-  return hand;
+  constexpr int playersRow = 6600;  // twips
+  return CardSet::OfPack(
+      [](int card) { return static_cast<int>(Table.Cds[card].Place.Top) == playersRow; });
 }
 
 // The suit that the list says was led to the trick on the table; 0 while the trick has no card.
@@ -32,8 +26,9 @@ int SuitLedByList() {
   int line = list.Count();
   while (line > 0 && !list.Line(line - 1).starts_with('=')) --line;
   if (line == list.Count()) return 0;
+  const std::string_view firstCard = list.Line(line);
   for (int suit = Diamonds; suit <= Spades; ++suit)
-    if (list.Line(line).ends_with(SuitNameOf(suit))) return suit;
+    if (firstCard.ends_with(SuitNameOf(suit))) return suit;
   return 0;
 }
 
