@@ -50,13 +50,25 @@ TablePoint PackPlace(int card) {
   return {5040.0 + 2 * (card - 1), 3720.0 - 2 * (card - 1)};
 }
 
+void LayDown(Integer card, const HandLayout& layout, TablePoint& place) {
+  SetPictureAt(Table.Cds[card], layout.picture == 0 ? card : layout.picture, place);
+  place.Left += layout.step.Left;
+  place.Top += layout.step.Top;
+}
+
 void LayOutHand(Integer seat) {
-  const HandLayout& layout = HandLayouts[seat];
+  const HandLayout layout = HandLayouts[seat];
   TablePoint place = layout.first;
-  for (const Integer card : HandOf(seat)) {
-    SetPictureAt(Table.Cds[card], layout.picture == 0 ? card : layout.picture, place);
-    place.Left += layout.step.Left;
-    place.Top += layout.step.Top;
+  for (const Integer card : HandOf(seat)) LayDown(card, layout, place);
+}
+
+// Goes through the pack once for all four.
+void LayOutAllHands() {
+  Indexed<TablePoint, Player, East> places;
+  for (int seat = Player; seat <= East; ++seat) places[seat] = HandLayouts[seat].first;
+  for (const Integer card : CardsInHands()) {
+    const Integer seat = Pack[card].Owner;
+    LayDown(card, HandLayouts[seat], places[seat]);
   }
 }
 
@@ -88,8 +100,7 @@ void PlacePackDeal() {
     for (int card = 1; card <= CardsInPack; ++card) {
       Pack[card].Owner = NoSeat;
       PictureBox& picture = Table.Cds[card];
-      SetPicture(picture, PictureBackUpright);
-      MoveTo(picture, PackPlace(card));
+      SetPictureAt(picture, PictureBackUpright, PackPlace(card));
       BringToFront(picture);
       Show(picture);
     }
@@ -141,10 +152,7 @@ void JustMoveCardsOut(Integer winner) {
     const Integer lastCard = TrickCards[4];
     if (winner >= Player && winner <= East) SlideToWinner(lastCard, winner);
     Hide(Table.Cds[lastCard]);
-    ShowWestHand();
-    ShowNorthHand();
-    ShowPlayerHand();
-    ShowEastHand();
+    LayOutAllHands();
     PauseMs = DefaultPauseMs;
   });
 }

@@ -132,12 +132,19 @@ inline bool HoldsCard(Integer seat, int value, int suit) {
 // suit, such as TrumpSuit before the deal has ended.
 inline CardSet HandOf(Integer seat, Integer suit) {
   if (!IsSuit(suit)) return {};
-  return CardSet::OfSuit(FirstCardOf(suit), [seat](int card) { return Pack[card].Owner == seat; });
+  const Integer first = FirstCardOf(suit);
+  const Card* cards = &Pack[first];  // one check of the number for the whole suit
+  return CardSet::OfSuit(first, [=](int card) { return cards[card - first].Owner == seat; });
 }
 
 // The whole hand of the seat.
 inline CardSet HandOf(Integer seat) {
   return HandOf(seat, Diamonds) | HandOf(seat, Clubs) | HandOf(seat, Hearts) | HandOf(seat, Spades);
+}
+
+// The cards of all hands.
+inline CardSet CardsInHands() {
+  return CardSet::OfPack([](int card) { return Pack[card].Owner != NoSeat; });
 }
 
 // "Diamonds".."Spades" for a suit 4..7.
