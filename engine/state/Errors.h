@@ -31,7 +31,13 @@ struct ProgramEnded {};
 
 [[noreturn]] void RaiseIndexError(int index, int first, int last);
 
+[[noreturn]] void RaiseRangeError(int value);
+
 // The value as a 16-bit integer; raises a GameError if it does not fit.
-Integer ToInteger(int value);
+inline Integer ToInteger(int value) {
+  const auto integer = static_cast<Integer>(value);
+  if (integer != value) RaiseRangeError(value);
+  return integer;
+}
 
 }  // namespace Parlino

@@ -15,16 +15,15 @@ class TextPiece {
   TextPiece(const std::string& text) : text_(text) {}
   TextPiece(const char* text) : text_(text) {}
   TextPiece(int number)
-      : length_(static_cast<std::size_t>(
-            std::to_chars(digits_, digits_ + sizeof digits_, number).ptr - digits_)) {}
-  [[nodiscard]] std::string_view Text() const {
-    return length_ > 0 ? std::string_view(digits_, length_) : text_;
-  }
+      : text_(digits_, std::to_chars(digits_, digits_ + sizeof digits_, number).ptr) {}
+  TextPiece(const TextPiece&) = delete;  // the text may be its own digits
+  TextPiece& operator=(const TextPiece&) = delete;
+  ~TextPiece() = default;
+  [[nodiscard]] std::string_view Text() const { return text_; }
 
  private:
-  std::string_view text_;
   char digits_[12];
-  std::size_t length_ = 0;
+  std::string_view text_;
 };
 using Pieces = std::initializer_list<TextPiece>;
 
