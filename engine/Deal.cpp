@@ -38,8 +38,7 @@ Integer GetSingleCard() {
   return ReportErrors("GetSingleCard", [] {
     while (true) {
       MixClockIntoGenerator();
-      const auto card =
-          static_cast<int>(std::lrint(static_cast<double>(NextRandom()) * CardsInPack));
+      const auto card = static_cast<int>(std::lrint(NextRandom() * CardsInPack));
       if (card != 0 && Pack[card].Owner == NoSeat) return static_cast<Integer>(card);
     }
   });

@@ -1,9 +1,5 @@
 #include "engine/Generator.h"
 
-#include <bit>
-
-#include "platform/Platform.h"
-
 namespace Parlino {
 namespace {
 
@@ -34,14 +30,6 @@ std::uint32_t Generator::NextBits() {
 
 int Generator::NextBelow(int count) {
   return static_cast<int>(std::uint64_t{NextBits()} * static_cast<std::uint64_t>(count) >> Bits);
-}
-
-void MixClockIntoGenerator() {
-  DealGenerator.Mix(std::bit_cast<std::uint64_t>(ThePlatform().ClockSeconds()));
-}
-
-float NextRandom() {
-  return static_cast<float>(DealGenerator.NextBits()) * 0x1p-24F;
 }
 
 }  // namespace Parlino

@@ -2,7 +2,10 @@
 // compiler and library.
 #pragma once
 
+#include <bit>
 #include <cstdint>
+
+#include "platform/Platform.h"
 
 namespace Parlino {
 
@@ -26,9 +29,13 @@ class Generator {
 inline Generator DealGenerator;
 
 // Mixes the platform's clock into DealGenerator.
-void MixClockIntoGenerator();
+inline void MixClockIntoGenerator() {
+  DealGenerator.Mix(std::bit_cast<std::uint64_t>(ThePlatform().ClockSeconds()));
+}
 
-// The next value of DealGenerator, uniform in [0, 1) with 24 bits.
-float NextRandom();
+// The next value of DealGenerator, uniform in [0, 1) and with the 24 bits of single precision.
+inline double NextRandom() {
+  return DealGenerator.NextBits() * 0x1p-24;
+}
 
 }  // namespace Parlino
