@@ -30,14 +30,13 @@ int ShortSuitBonus() {
   return 0;
 }
 
-// Trumps below the King, worth half a trick each.
+}  // namespace
+
 int LowerTrumps(Integer seat) {
   return HandOf(seat, TrumpSuit)
       .Between(CardNumber(2, TrumpSuit), CardNumber(Queen, TrumpSuit))
       .Count();
 }
-
-}  // namespace
 
 void SuitTotals(Integer seat) {
   ReportErrors("SuitTotals", [seat] {

@@ -13,4 +13,8 @@ void SuitTotals(Integer seat);
 // totals. Reports its own errors.
 Integer GetBid(Integer seat);
 
+// The seat's trumps below the King. Each is worth half a trick, and a bid leaves out half a trick
+// that remains.
+int LowerTrumps(Integer seat);
+
 }  // namespace Parlino
