@@ -4,6 +4,7 @@
 #include <charconv>
 #include <functional>
 #include <initializer_list>
+#include <string>
 #include <string_view>
 
 namespace Parlino {
@@ -14,8 +15,12 @@ struct CommandOption {
   bool isNeeded = true;
 };
 
-// Gives each option its value and says whether the whole line was understood and no needed option
-// is missing.
+// Gives each option its value. Returns what is wrong if the line cannot be understood or a needed
+// option is missing, otherwise nothing.
+std::string ComplaintAbout(int count, const char* const* arguments,
+                           std::initializer_list<CommandOption> options);
+
+// The same, but only says whether nothing is wrong.
 bool ParseCommandLine(int count, const char* const* arguments,
                       std::initializer_list<CommandOption> options);
 

@@ -10,7 +10,7 @@
 namespace Parlino {
 
 // The last session of a run may be shorter. How long a session is changes every run with --jobs.
-inline constexpr int HandsInSession = 1000;
+inline constexpr int HandsInSession = 2500;
 
 // Plays the run as sessions, each with a seed of its own made from the run's, at most `jobs` of
 // them at a time, each in a process of its own because there is only one game in a process. The

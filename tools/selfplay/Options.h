@@ -2,8 +2,8 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
+#include <string_view>
 
 namespace Parlino {
 
@@ -11,10 +11,16 @@ struct SelfPlayOptions {
   int hands = 0;
   std::uint64_t seed = 0;
   bool isSouthARobot = false;  // or one who plays at random
-  std::string transcript;      // a file name; empty for none
+  int jobs = 0;                // 0 for a single session
+  std::string transcript;      // file names; empty for none
+  std::string table;
+  bool isHelpWanted = false;
 };
 
-// Returns nothing if the command line cannot be understood.
-std::optional<SelfPlayOptions> ParseOptions(int count, const char* const* arguments);
+// Fills in the options and returns nothing, or what is wrong with the command line.
+std::string ParseOptions(int count, const char* const* arguments, SelfPlayOptions& options);
+
+// What --help says.
+extern const std::string_view SelfPlayHelp;
 
 }  // namespace Parlino

@@ -22,15 +22,18 @@ OutputFile::OutputFile(const std::string& name) : name_(name), place_(name), wri
 }
 
 OutputFile::~OutputFile() {
-  if (!isFinished_ && written_ != place_) std::remove(written_.c_str());
+  if (!isInPlace_ && written_ != place_) std::remove(written_.c_str());
 }
 
-void OutputFile::Finish() {
+void OutputFile::Close() {
   errno = 0;
   stream_.close();
   if (!stream_) RaiseUnwritable();
+}
+
+void OutputFile::PutInPlace() {
   if (written_ != place_ && std::rename(written_.c_str(), place_.c_str()) != 0) RaiseUnwritable();
-  isFinished_ = true;
+  isInPlace_ = true;
 }
 
 void OutputFile::RaiseUnwritable() const {

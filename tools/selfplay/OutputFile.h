@@ -19,8 +19,10 @@ class OutputFile {
 
   std::ostream& Stream() { return stream_; }
 
-  // Puts the file in its place. Raises std::runtime_error if not all of it could be written.
-  void Finish();
+  // Raises std::runtime_error if not all of it could be written.
+  void Close();
+  // Puts the closed file in its place. Raises std::runtime_error if it cannot.
+  void PutInPlace();
 
  private:
   void RaiseUnwritable() const;
@@ -29,7 +31,7 @@ class OutputFile {
   std::string place_;    // links followed
   std::string written_;  // where it is written
   std::ofstream stream_;
-  bool isFinished_ = false;
+  bool isInPlace_ = false;
 };
 
 }  // namespace Parlino

@@ -94,6 +94,7 @@ Figures SessionProcess::TakeResult(std::string& transcript) {
 
 void ReadFromAny(const std::vector<std::unique_ptr<SessionProcess>>& sessions) {
   std::vector<pollfd> pipes;
+  pipes.reserve(sessions.size());
   for (const auto& session : sessions) pipes.push_back({session->Pipe(), POLLIN, 0});
   if (poll(pipes.data(), pipes.size(), -1) < 0) return;
   for (std::size_t place = 0; place < pipes.size(); ++place)

@@ -29,9 +29,12 @@ void WriteText(std::ostream& out, std::string_view text) {
 
 }  // namespace
 
-void Transcript::WriteHeader(std::uint64_t seed, int hands, std::string_view south) {
-  out_ << R"({"format":"parlino-selfplay","version":1,"seed":)" << seed << R"(,"hands":)" << hands
-       << R"(,"south":")" << south << "\"}\n";
+void WriteTranscriptHeader(std::ostream& out, std::uint64_t seed, int hands, std::string_view south,
+                           int handsInSession) {
+  out << R"({"format":"parlino-selfplay","version":1,"seed":)" << seed << R"(,"hands":)" << hands
+      << R"(,"south":")" << south << '"';
+  if (handsInSession > 0) out << R"(,"hands_in_session":)" << handsInSession;
+  out << "}\n";
 }
 
 void Transcript::Look() {

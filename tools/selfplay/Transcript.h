@@ -10,11 +10,13 @@
 
 namespace Parlino {
 
+// Writes the line that comes before all hands. `handsInSession` is 0 if the run is not divided.
+void WriteTranscriptHeader(std::ostream& out, std::uint64_t seed, int hands, std::string_view south,
+                           int handsInSession);
+
 class Transcript {
  public:
   explicit Transcript(std::ostream& out) : out_(out) {}
-
-  void WriteHeader(std::uint64_t seed, int hands, std::string_view south);
 
   // Notes what has happened since the last call. To be called each time the game processes events,
   // which is at least once for every card dealt and every trick.
