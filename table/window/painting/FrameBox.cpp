@@ -1,8 +1,10 @@
 #include "table/window/painting/FrameBox.h"
 
 #include <QFontMetrics>
+#include <QPaintEvent>
 #include <QPainter>
 
+#include "table/window/painting/CardBody.h"
 #include "table/window/painting/Edges.h"
 #include "table/window/painting/WrappedText.h"
 
@@ -47,11 +49,12 @@ void FilledBox::SetBorder(const QColor& colour, int width) {
   borderWidth_ = width;
 }
 
-void FilledBox::paintEvent(QPaintEvent*) {
+void FilledBox::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   if (borderWidth_ > 0) painter.fillRect(rect(), border_);
   const int width = borderWidth_;
   painter.fillRect(rect().adjusted(width, width, -width, -width), fill_);
+  if (parentWidget() != nullptr) CardBody::PaintShadowsOn(painter, *this, event->rect());
 }
 
 }  // namespace Parlino

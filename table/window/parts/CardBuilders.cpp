@@ -56,6 +56,7 @@ void ReportCardEvents(Speaking<PictureView>& view, int card, PendingEvents& pend
 void BuildTableTop(const BuildSite& site) {
   constexpr int borderWidth = 5;
   auto* top = Named(new Speaking<FilledBox>(Colours::Green, &site.parent), "Shape1");
+  site.widgets.top = top;
   top->SetBorder(Colours::Brown, borderWidth);
   top->setGeometry(ToPixels(2880, 2640, 5535, 3855));
   site.mirror.Link(Table.Shape1, top);

@@ -1,0 +1,142 @@
+#include "table/window/painting/CardBody.h"
+
+#include <map>
+#include <tuple>
+#include <utility>
+
+#include <QApplication>
+#include <QMoveEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QPixmap>
+
+namespace Parlino {
+namespace {
+
+// How far the shadow reaches beyond the card on each side, how far it is moved from the light at
+// the upper left, and how dark it is, 0 to 1, under the edge of the card.
+struct Shadow {
+  int reach;
+  QPoint shift;
+  double darkness;
+};
+constexpr Shadow LyingShadow{4, {1, 2}, 0.42};
+constexpr Shadow LiftedShadow{9, {3, 6}, 0.36};
+
+const Shadow& ShadowOf(bool isLifted) {
+  return isLifted ? LiftedShadow : LyingShadow;
+}
+
+// Rounded boxes one in another, each a little darker than the one around it.
+QPixmap DrawShadow(QSize body, const Shadow& shadow, qreal ratio) {
+  constexpr qreal corner = 5;
+  const QSize size = body + 2 * QSize(shadow.reach, shadow.reach);
+  QPixmap pixels(size * ratio);
+  pixels.setDevicePixelRatio(ratio);
+  pixels.fill(Qt::transparent);
+  QPainter painter(&pixels);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  const int steps = 2 * shadow.reach;
+  double covered = 0;
+  for (int step = 1; step <= steps; ++step) {
+    const double progress = static_cast<double>(step) / steps;
+    const double wanted = shadow.darkness * progress * progress;
+    const double inset = progress * shadow.reach;
+    painter.setBrush(
+        QColor::fromRgbF(0, 0, 0, static_cast<float>((wanted - covered) / (1 - covered))));
+    painter.drawRoundedRect(QRectF(QPointF(), size).adjusted(inset, inset, -inset, -inset),
+                            corner + shadow.reach - inset, corner + shadow.reach - inset);
+    covered = wanted;
+  }
+  return pixels;
+}
+
+std::map<std::tuple<int, int, bool, qreal>, QPixmap> drawnShadows;
+
+const QPixmap& ShadowPicture(QSize body, bool isLifted, qreal ratio) {
+  // Pixmaps must be destroyed before the application is.
+  if (drawnShadows.empty()) qAddPostRoutine([] { drawnShadows.clear(); });
+  QPixmap& pixels = drawnShadows[{body.width(), body.height(), isLifted, ratio}];
+  if (pixels.isNull()) pixels = DrawShadow(body, ShadowOf(isLifted), ratio);
+  return pixels;
+}
+
+// The cards of the pack lie so close to each other that their shadows are one.
+bool AreAsOne(const QRect& one, const QRect& other) {
+  constexpr int closest = 2;
+  return one.size() == other.size() &&
+         (one.topLeft() - other.topLeft()).manhattanLength() <= closest;
+}
+
+}  // namespace
+
+void CardBody::Lift(bool isLifted) {
+  if (isLifted_ == isLifted) return;
+  RepaintGround();
+  isLifted_ = isLifted;
+  RepaintGround();
+}
+
+QRect CardBody::ShadowBox() const {
+  const Shadow& shadow = ShadowOf(isLifted_);
+  const QMargins reach(shadow.reach, shadow.reach, shadow.reach, shadow.reach);
+  return geometry().marginsAdded(reach).translated(shadow.shift);
+}
+
+void CardBody::RepaintGround() const {
+  if (!isHidden()) parentWidget()->update(ShadowBox());
+}
+
+bool CardBody::event(QEvent* event) {
+  switch (event->type()) {
+    case QEvent::Move: {
+      const QPoint way = static_cast<QMoveEvent*>(event)->oldPos() - pos();
+      if (!isHidden()) parentWidget()->update(ShadowBox().translated(way));
+      RepaintGround();
+      break;
+    }
+    case QEvent::Hide:
+      parentWidget()->update(ShadowBox());
+      break;
+    case QEvent::Resize:
+    case QEvent::Show:
+    case QEvent::ZOrderChange:
+      RepaintGround();
+      break;
+    default:
+      break;
+  }
+  return QWidget::event(event);
+}
+
+void CardBody::PaintShadowsOnTable(QPainter& painter, const QWidget& table, const QRect& part) {
+  PaintShadows(painter, table.children(), {}, part);
+}
+
+// The children of the table are in their order from the back to the front.
+void CardBody::PaintShadowsOn(QPainter& painter, const QWidget& ground, const QRect& part) {
+  const QObjectList& things = ground.parentWidget()->children();
+  PaintShadows(painter, things.mid(things.indexOf(&ground) + 1), ground.pos(), part);
+}
+
+void CardBody::PaintShadows(QPainter& painter, const QObjectList& things, QPoint origin,
+                            const QRect& part) {
+  QRect last;
+  for (const QObject* thing : things) {
+    const auto* body = dynamic_cast<const CardBody*>(thing);
+    if (body == nullptr || body->isHidden()) continue;
+    const QRect box = body->ShadowBox().translated(-origin);
+    if (!box.intersects(part) || AreAsOne(box, last)) continue;
+    last = box;
+    painter.drawPixmap(box.topLeft(),
+                       ShadowPicture(body->size(), body->isLifted_, body->devicePixelRatioF()));
+  }
+}
+
+void TableGround::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  CardBody::PaintShadowsOnTable(painter, *this, event->rect());
+}
+
+}  // namespace Parlino

@@ -1,0 +1,39 @@
+// Things made of card, which lie on the table and cast a soft shadow on what is below them.
+#pragma once
+
+#include <QWidget>
+
+namespace Parlino {
+
+class CardBody : public QWidget {
+ public:
+  using QWidget::QWidget;
+
+  // A card under way is a little higher above the table than one that lies there.
+  void Lift(bool isLifted);
+
+  // Paint the shadows that fall on `part` of the table, and on `part` of a widget of the table: of
+  // the bodies above it. It is the ground that paints them, so a shadow falls on the next card as
+  // well as on the table, and the body keeps the place and size of the card.
+  static void PaintShadowsOnTable(QPainter& painter, const QWidget& table, const QRect& part);
+  static void PaintShadowsOn(QPainter& painter, const QWidget& ground, const QRect& part);
+
+ protected:
+  bool event(QEvent* event) override;
+
+ private:
+  static void PaintShadows(QPainter& painter, const QObjectList& things, QPoint origin,
+                           const QRect& part);
+  [[nodiscard]] QRect ShadowBox() const;
+  void RepaintGround() const;
+
+  bool isLifted_ = false;
+};
+
+// The table on which everything lies, in whatever colour is behind it.
+class TableGround : public QWidget {
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace Parlino
