@@ -74,9 +74,9 @@ void TableWindow::BuildTable(KeyUse& keyUse) {
 void TableWindow::ShowModel(std::uint32_t now, std::uint32_t pauseMs) {
   mirror_.ShowChanges(now, pauseMs);
   hints_.Follow();
-  light_->Follow();
   spoken_.Tell();
   glides_.DrawFrame(now);
+  light_->Follow();
   if (Table.FrmMain.Visible && !isVisible()) {
     FitToScreen();
     show();

@@ -54,24 +54,6 @@ Integer SeatThatBids() {
   return last == Player ? NoSeat : last;
 }
 
-struct Trick {
-  Integer toPlay = NoSeat;
-  Indexed<Integer, 0, 3> cards;  // that lie in the middle, by seat; 0 for none
-};
-
-Trick LookAtTrick() {
-  Trick trick;
-  for (Integer card = 1; card <= CardsInPack; ++card) {
-    const Integer seat = Table.Cds[card].Visible ? SeatBehindCard(card) : NoSeat;
-    if (seat != NoSeat) trick.cards[seat] = card;
-  }
-  for (int place = SeatsAtTable - 1; place >= 0; --place) {
-    const Integer seat = SeatAfter(Leader, place);
-    if (trick.cards[seat] == 0) trick.toPlay = seat;
-  }
-  return trick;
-}
-
 constexpr QColor Light = Colours::LightYellow;
 
 QColor Faint(int alpha) {
@@ -130,13 +112,25 @@ Lit TurnLight::FindLight() const {
   } else if (HandInProgress && TrumpSuit > 0 && TrickNumber == 0) {
     lit.seat = SeatThatBids();
   } else if (HandInProgress && TrickNumber > 0) {
-    const Trick trick = LookAtTrick();
-    if (trick.toPlay == NoSeat)
-      lit.winner = BoxOf(trick.cards[WinnerOfTrick()]);
-    else if (trick.toPlay != Player)
-      lit.seat = trick.toPlay;
+    LookAtTrick(lit);
   }
   return lit;
+}
+
+// By the cards as they are seen: one under way has not been played yet, and a trick that is
+// complete stays so until its cards leave.
+void TurnLight::LookAtTrick(Lit& lit) const {
+  Indexed<const QWidget*, 0, 3> played;
+  for (Integer seat = Player; seat <= East; ++seat)
+    for (const PictureView* card : widgets_.cards)
+      if (!card->isHidden() && card->pos() == ToPixels(PlaceInMiddle(seat))) played[seat] = card;
+  if (std::ranges::count(played, nullptr) == 0) {
+    lit.winner = played[WinnerOfTrick()]->geometry();
+    return;
+  }
+  for (int place = SeatsAtTable - 1; place >= 0; --place)
+    if (const Integer seat = SeatAfter(Leader, place); played[seat] == nullptr) lit.seat = seat;
+  if (lit.seat == Player) lit.seat = NoSeat;
 }
 
 void TurnLight::DimOthers() const {

@@ -36,6 +36,7 @@ class TurnLight : public QWidget {
 
  private:
   [[nodiscard]] Lit FindLight() const;
+  void LookAtTrick(Lit& lit) const;
   void DimOthers() const;
   void DrawHandLight(QPainter& painter) const;
   void DrawSeatLight(QPainter& painter) const;
