@@ -65,7 +65,7 @@ void MakeTrumpTiles(const fs::path& sources, const fs::path& output) {
     const std::string colour = SuitNamed(name).colour;
     WritePicture(NumberedFile(output, number++), 48, 48,
                  ReadDrawing(sources / "tile.svg") + "<g fill=\"" + colour + "\">\n" +
-                     Place(symbol, "translate(24 24) scale(3.3)") + "</g>\n");
+                     Place(symbol, "translate(24 24) scale(2.4)") + "</g>\n");
   }
 }
 
