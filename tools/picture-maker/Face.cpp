@@ -42,7 +42,7 @@ Drawing TwoHeaded(const Drawing& half, const std::string& name) {
 // Paper upon edge: with a fill and its outline over the same pixels, light would shine through at
 // the corners.
 Drawing ComposeCard() {
-  return "<rect width=\"71\" height=\"96\" rx=\"5.5\" fill=\"#77736f\"/>\n"
+  return "<rect width=\"71\" height=\"96\" rx=\"5.5\" fill=\"#8f897f\"/>\n"
          "<rect x=\"1\" y=\"1\" width=\"69\" height=\"94\" rx=\"4.5\" fill=\"#fffdf6\"/>\n";
 }
 
