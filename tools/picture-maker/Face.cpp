@@ -78,9 +78,8 @@ std::string SlopeOfSeam(int value) {
 Drawing ComposeCourt(const std::filesystem::path& sources, const Suit& suit, int value) {
   const std::string outline = "<rect x=\"28.5\" y=\"4.5\" width=\"38\" height=\"87\" ";
   const std::string name = RankName(value) + "-of-" + suit.name + ".svg";
-  const auto courts = sources / "courts";
-  const Drawing figure = ReadDrawing(courts / name);
-  const Drawing sash = ReadDrawing(courts / ("sash-of-" + std::string(suit.name) + ".svg"));
+  const Drawing figure = ReadDrawing(sources / "courts" / name);
+  const Drawing sash = ReadDrawing(sources / "sashes" / name);
   return outline + "fill=\"" + suit.tint + "\"/>\n" +
          TwoHeaded(Place(figure, "translate(3.5 0)"), "figure") +
          Place(sash, "translate(47.5 48) skewY(" + SlopeOfSeam(value) + ")") + outline +
