@@ -3,12 +3,8 @@
 namespace Parlino {
 namespace {
 
-constexpr double MiddleX = 35.5, MiddleY = 48;
-
-// On a nine and a ten the columns stand further apart, to make room for the pips in the middle.
-double ToTheSide(int value) {
-  return value < 9 ? 10 : 11;
-}
+constexpr double MiddleX = 47.5, MiddleY = 48, ToTheSide = 13;
+constexpr int LastLargeValue = 3;
 
 std::vector<double> PlaceSideRows(int value) {
   switch (value) {
@@ -21,7 +17,7 @@ std::vector<double> PlaceSideRows(int value) {
       return {14, 48, 82};
     case 9:
     case 10:
-      return {14, 36.6, 59.4, 82};
+      return {14, 37, 59, 82};
     default:
       return {};
   }
@@ -30,9 +26,9 @@ std::vector<double> PlaceSideRows(int value) {
 std::vector<double> PlaceMiddleRows(int value) {
   switch (value) {
     case 2:
-      return {14, 82};
+      return {17, 79};
     case 3:
-      return {14, 48, 82};
+      return {17, 48, 79};
     case 5:
     case 9:
       return {48};
@@ -41,7 +37,7 @@ std::vector<double> PlaceMiddleRows(int value) {
     case 8:
       return {31, 65};
     case 10:
-      return {25.3, 70.7};
+      return {25, 71};
     default:
       return {};
   }
@@ -52,11 +48,15 @@ std::vector<double> PlaceMiddleRows(int value) {
 std::vector<Spot> PlacePips(int value) {
   std::vector<Spot> spots;
   for (const double y : PlaceSideRows(value)) {
-    spots.push_back({MiddleX - ToTheSide(value), y});
-    spots.push_back({MiddleX + ToTheSide(value), y});
+    spots.push_back({MiddleX - ToTheSide, y});
+    spots.push_back({MiddleX + ToTheSide, y});
   }
   for (const double y : PlaceMiddleRows(value)) spots.push_back({MiddleX, y});
   return spots;
+}
+
+Size PipSize(int value) {
+  return value <= LastLargeValue ? Size{17, 18} : Size{13, 14};
 }
 
 bool IsTurned(Spot spot) {
