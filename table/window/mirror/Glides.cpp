@@ -59,7 +59,9 @@ void Glides::Begin(QWidget* widget, QPoint goal, std::uint32_t now, std::uint32_
   // Half a frame less than there is room for: so the last frame comes before the pause ends.
   const double lengthMs = std::max(1.0, roomMs - frameMs_ / 2);
   glides_.push_back({widget, widget->pos(), goal, now, 0, lengthMs, {}, {}});
-  Lift(widget, true);
+  // A card that only closes a gap in its hand stays down.
+  constexpr int shortWay = 40;
+  Lift(widget, (goal - widget->pos()).manhattanLength() > shortWay);
 }
 
 void Glides::BeginAfterRest(QWidget* widget, QPoint goal, std::uint32_t now, std::uint32_t pauseMs,

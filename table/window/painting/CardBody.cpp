@@ -9,6 +9,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPixmap>
+#include <QResizeEvent>
 
 namespace Parlino {
 namespace {
@@ -73,36 +74,35 @@ bool AreAsOne(const QRect& one, const QRect& other) {
 
 void CardBody::Lift(bool isLifted) {
   if (isLifted_ == isLifted) return;
-  RepaintGround();
+  RepaintGround(geometry());
   isLifted_ = isLifted;
-  RepaintGround();
+  RepaintGround(geometry());
 }
 
-QRect CardBody::ShadowBox() const {
+QRect CardBody::ShadowBox(const QRect& body) const {
   const Shadow& shadow = ShadowOf(isLifted_);
   const QMargins reach(shadow.reach, shadow.reach, shadow.reach, shadow.reach);
-  return geometry().marginsAdded(reach).translated(shadow.shift);
+  return body.marginsAdded(reach).translated(shadow.shift);
 }
 
-void CardBody::RepaintGround() const {
-  if (!isHidden()) parentWidget()->update(ShadowBox());
+void CardBody::RepaintGround(const QRect& body) const {
+  parentWidget()->update(ShadowBox(body));
 }
 
 bool CardBody::event(QEvent* event) {
   switch (event->type()) {
-    case QEvent::Move: {
-      const QPoint way = static_cast<QMoveEvent*>(event)->oldPos() - pos();
-      if (!isHidden()) parentWidget()->update(ShadowBox().translated(way));
-      RepaintGround();
-      break;
-    }
-    case QEvent::Hide:
-      parentWidget()->update(ShadowBox());
+    case QEvent::Move:
+      RepaintGround({static_cast<QMoveEvent*>(event)->oldPos(), size()});
+      RepaintGround(geometry());
       break;
     case QEvent::Resize:
+      RepaintGround({pos(), static_cast<QResizeEvent*>(event)->oldSize()});
+      RepaintGround(geometry());
+      break;
+    case QEvent::Hide:
     case QEvent::Show:
     case QEvent::ZOrderChange:
-      RepaintGround();
+      RepaintGround(geometry());
       break;
     default:
       break;
@@ -126,7 +126,7 @@ void CardBody::PaintShadows(QPainter& painter, const QObjectList& things, QPoint
   for (const QObject* thing : things) {
     const auto* body = dynamic_cast<const CardBody*>(thing);
     if (body == nullptr || body->isHidden()) continue;
-    const QRect box = body->ShadowBox().translated(-origin);
+    const QRect box = body->ShadowBox(body->geometry()).translated(-origin);
     if (!box.intersects(part) || AreAsOne(box, last)) continue;
     last = box;
     painter.drawPixmap(box.topLeft(),

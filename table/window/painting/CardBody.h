@@ -24,8 +24,8 @@ class CardBody : public QWidget {
  private:
   static void PaintShadows(QPainter& painter, const QObjectList& things, QPoint origin,
                            const QRect& part);
-  [[nodiscard]] QRect ShadowBox() const;
-  void RepaintGround() const;
+  [[nodiscard]] QRect ShadowBox(const QRect& body) const;
+  void RepaintGround(const QRect& body) const;
 
   bool isLifted_ = false;
 };

@@ -40,9 +40,8 @@ void FrameBox::paintEvent(QPaintEvent*) {
   DrawLine(painter, caption, title(), look_.font);
 }
 
-FilledBox::FilledBox(const QColor& fill, QWidget* parent) : QWidget(parent), fill_(fill) {
-  setAttribute(Qt::WA_OpaquePaintEvent);
-}
+// Not marked as opaque: Qt would not repaint it when a shadow on the table changes.
+FilledBox::FilledBox(const QColor& fill, QWidget* parent) : QWidget(parent), fill_(fill) {}
 
 void FilledBox::SetBorder(const QColor& colour, int width) {
   border_ = colour;
