@@ -63,22 +63,25 @@ double HeadlessPlatform::ClockSeconds() {
   return static_cast<double>((std::uint64_t{clockAtStart} + ticks) % MsInDay) * 0.001;
 }
 
-void HeadlessPlatform::Note(std::string_view kind, std::string_view text) {
-  if (keepsRecord) record.push_back(JoinText({kind, ": ", text}));
+void HeadlessPlatform::Record(Pieces line) {
+  if (keepsRecord) record.push_back(JoinText(line));
 }
 
 void HeadlessPlatform::StartSound(std::string_view fileName) {
-  Note("sound", fileName);
+  Record({"sound ", fileName});
 }
 
 std::string HeadlessPlatform::InputBox(std::string_view prompt, std::string_view title,
                                        std::string_view defaultAnswer) {
-  Note("input box", prompt);
-  return answerInputBox ? answerInputBox(prompt, title, defaultAnswer) : std::string(defaultAnswer);
+  Record({"asks \"", prompt, "\" titled \"", title, "\" offering \"", defaultAnswer, "\""});
+  std::string answer =
+      answerInputBox ? answerInputBox(prompt, title, defaultAnswer) : std::string(defaultAnswer);
+  Record({"> \"", answer, "\""});
+  return answer;
 }
 
 void HeadlessPlatform::MsgBox(std::string_view text, std::string_view title, bool critical) {
-  Note(critical ? "critical box" : "box", JoinText({title, ": ", text}));
+  Record({critical ? "critical box \"" : "box \"", text, "\" titled \"", title, "\""});
   onMsgBox(text);
 }
 
@@ -95,10 +98,11 @@ ScreenSize HeadlessPlatform::Screen() {
 }
 
 void HeadlessPlatform::CloseWindow(WindowName window) {
-  Note("closed", NameOf(window));
+  Record({"closes ", NameOf(window)});
 }
 
 std::string HeadlessPlatform::ReadFile(std::string_view fileName) {
+  Record({"reads ", fileName});
   const auto file = files.find(fileName);
   if (file == files.end())
     throw GameError(ENOENT, JoinText({fileName, " cannot be read: No such file or directory"}));
@@ -106,7 +110,7 @@ std::string HeadlessPlatform::ReadFile(std::string_view fileName) {
 }
 
 std::string HeadlessPlatform::ReplaceFile(std::string_view fileName, std::string_view content) {
-  Note("written", fileName);
+  Record({"writes ", fileName, " \"", content, "\""});
   if (!filesCanBeWritten || fileName == fileThatCannotBeWritten)
     throw GameError(EROFS, JoinText({fileName, " cannot be written: Read-only file system"}));
   files.insert_or_assign(std::string(fileName), std::string(content));
@@ -114,6 +118,7 @@ std::string HeadlessPlatform::ReplaceFile(std::string_view fileName, std::string
 }
 
 std::string HeadlessPlatform::SetFileAside(std::string_view fileName) {
+  Record({"sets aside ", fileName});
   std::string content = ReadFile(fileName);
   const std::string aside = std::string(fileName) + ".bad";
   std::string name = aside;
@@ -132,9 +137,9 @@ std::optional<RegistryKey> HeadlessPlatform::OpenRegistryKey(std::uint32_t root,
                                                              std::uint32_t rights) {
   const bool isThere = std::ranges::any_of(
       registry, [name](const auto& value) { return value.first.first == name; });
-  if (root != RegistryLocalMachine || (rights & ~registryRights) != 0 || !isThere)
-    return std::nullopt;
-  Note("key opened", name);
+  const bool isOpened = isThere && root == RegistryLocalMachine && (rights & ~registryRights) == 0;
+  Record({isOpened ? "opens key " : "cannot open key ", name});
+  if (!isOpened) return std::nullopt;
   openKeys_.emplace(++lastKey_, name);
   return lastKey_;
 }
@@ -151,14 +156,14 @@ std::optional<RegistryValue> HeadlessPlatform::ReadRegistryValue(RegistryKey key
 }
 
 void HeadlessPlatform::CloseRegistryKey(RegistryKey key) {
-  Note("key closed", openKeys_.at(key));
+  Record({"closes key"});
   openKeys_.erase(key);
 }
 
 void HeadlessPlatform::StartProgram(std::string_view path) {
   if (!files.contains(path))
     throw GameError(ENOENT, JoinText({path, " cannot be started: No such file or directory"}));
-  Note("started", path);
+  Record({"starts ", path});
 }
 
 }  // namespace Parlino

@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "engine/state/JoinText.h"
 #include "platform/Platform.h"
 
 namespace Parlino {
@@ -51,7 +52,7 @@ class HeadlessPlatform : public Platform {
   std::uint32_t registryRights = RegistryFullAccess;
   bool registryRaises = false;  // whether reading a value raises an error
 
-  // What was shown and heard, in order, one line each; kept only while `keepsRecord` is set.
+  // What was asked of the platform, in order, one line each; kept only while `keepsRecord` is set.
   std::vector<std::string> record;
   bool keepsRecord = false;
 
@@ -86,9 +87,12 @@ class HeadlessPlatform : public Platform {
   // A program can be started if it is one of the files.
   void StartProgram(std::string_view path) override;
 
+ protected:
+  // Adds a line to the record.
+  virtual void Record(Pieces line);
+
  private:
   void WaitForScript();
-  void Note(std::string_view kind, std::string_view text);
 
   int idleCalls_ = 0;
   std::map<RegistryKey, std::string> openKeys_;

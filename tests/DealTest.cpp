@@ -1,10 +1,8 @@
-// What only shows over many deals, and draws that no game can bring about.
+// What only shows over many deals.
 #include <gtest/gtest.h>
 #include <set>
 
 #include "engine/Deal.h"
-#include "engine/Generator.h"
-#include "engine/RoundDriver.h"
 #include "table/CardDisplay.h"
 #include "tests/support/HeadlessGame.h"
 
@@ -28,40 +26,6 @@ TEST(Deal, DealsEveryCardOnceAndTheAceOfSpadesLate) {
   EXPECT_GT(withDealer[52], deals * 29 / 100);
   for (int card = 1; card < CardsInPack; ++card)
     EXPECT_NEAR(withDealer[card], deals * 0.25, deals * 0.04) << "card " << card;
-}
-
-TEST(Deal, DrawsTheOneCardThatIsLeft) {
-  const HeadlessGame game;
-  for (const int left : {1, 26, 51, 52}) {
-    SetItUp();
-    for (Card& card : Pack) card.Owner = West;
-    Pack[left].Owner = NoSeat;
-    EXPECT_EQ(GetSingleCard(), left);
-  }
-}
-
-TEST(Deal, GivesEachSeatAQuarterOfTheFirstDeals) {
-  const HeadlessGame game;
-  Indexed<int, 0, 3> dealers;
-  for (int games = 0; games < 4000; ++games) {
-    GameInProgress = False;
-    GetDealer();
-    ++dealers[Dealer];
-  }
-  for (const int count : dealers) EXPECT_NEAR(count, 1000, 120);
-}
-
-TEST(Generator, GoesOnWithinOneTickOfTheClockAndRepeatsBySeed) {
-  const HeadlessGame game;
-  float drawn[4];
-  for (int draw = 0; draw < 4; ++draw) {
-    if (draw != 1) DealGenerator.Seed(draw == 3 ? 4 : 3);
-    MixClockIntoGenerator();
-    drawn[draw] = NextRandom();
-  }
-  EXPECT_NE(drawn[1], drawn[0]);
-  EXPECT_EQ(drawn[2], drawn[0]);
-  EXPECT_NE(drawn[3], drawn[0]);
 }
 
 // It stands still, at midnight too, is set back at every draw, or jumps over midnight.

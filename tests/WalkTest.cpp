@@ -59,40 +59,6 @@ TEST_F(HandWalkTest, ReachesTheCard) {
   }
 }
 
-TEST_F(HandWalkTest, KeepsItsPlaceInTheRowWhenTheCardThereIsPlayed) {
-  HandWalk walk;
-  for (const auto& [played, next] : {std::pair("2C", "7C"), {"QH", "5H"}, {"4D", "TD"}}) {
-    const auto card = static_cast<Integer>(CardOf(played));
-    walk.GoTo(card);
-    MoveToMiddle(card, Player);  // it is still the Player's while it goes there
-    walk.Follow();
-    EXPECT_EQ(CardText(walk.Card()), next);
-    Pack[card].Owner = NoSeat;
-    ShowPlayerHand();
-    walk.Follow();
-    EXPECT_EQ(CardText(walk.Card()), next);
-  }
-}
-
-TEST_F(HandWalkTest, WaitsForTheDealAndFindsNoCardToPlayOutOfTurn) {
-  HandWalk walk;
-  walk.Follow();
-  EXPECT_EQ(CardText(walk.Card()), "4D");
-  EXPECT_FALSE(walk.GoToNext(CardsHumanMayPlay()));
-  walk.GoToOneBefore(CardsHumanMayPlay());
-  EXPECT_EQ(CardText(walk.Card()), "4D");
-  walk.GoToLast();
-  PlacePackDeal();
-  TrumpSuit = -1;
-  GiveHand(Player, "9H");
-  ShowPlayerHand();
-  walk.Follow();
-  EXPECT_EQ(walk.Card(), 0);
-  TrumpSuit = Spades;
-  walk.Follow();
-  EXPECT_EQ(CardText(walk.Card()), "9H");
-}
-
 TEST(BidWalk, StepsAlongTheNumbersAndBetweenTheRows) {
   for (Row& row : ReadRows("walks.txt", "step")) {
     BidWalk walk;

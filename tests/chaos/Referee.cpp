@@ -2,11 +2,7 @@
 
 #include <algorithm>
 
-#include "engine/state/Errors.h"
 #include "engine/state/Questions.h"
-#include "persistence/DataFiles.h"
-#include "persistence/Records.h"
-#include "platform/Platform.h"
 #include "table/MessageDialog.h"
 #include "table/TableView.h"
 
@@ -38,66 +34,43 @@ bool IsOpen(std::string_view title) {
 
 }  // namespace
 
-void Referee::BeginProgram() {
-  programBegins_ = true;
-  isDealt_ = isGameOver_ = mayErase_ = false;
-  loaded_.reset();
-}
-
 std::string_view Referee::Look() {
   if (std::exchange(programBegins_, false)) {
     totals_ = {OurPoints, TheirPoints};
     statistics_ = {GamesWon, GamesPlayed};
+    isGameOver_ = mayLoad_ = false;
+    hand_.reset();
   }
-  if (HandInProgress && TrumpSuit < Diamonds) isDealt_ = false;
-  if (!DealIsGood()) return "thirteen cards for each seat, and what was loaded";
-  if (isDealt_ && !ListTellsAPossiblePlay()) return "the list tells a possible play";
+  if (HandInProgress && TrumpSuit < Diamonds) hand_.reset();
+  if (!DealIsGood()) return "thirteen cards for each seat";
+  if (hand_ && !ListTellsAPossiblePlay()) return "the list tells a possible play";
   NoteScores();
   if (!CardsAreInOnePlaceEach()) return "each card is in one hand or has been played";
   if (!TrickAndTurnAgreeWithList()) return "bids, trick, turn and tricks won agree with the list";
-  if (!TotalsAreTheSumOfHands()) return "totals are the sum of the hands scored, and shown";
+  if (!TotalsAreTheSumOfHands()) return "totals are the sum of the hands scored";
   if (!StatisticsChangeAtTheEndOfAGame()) return "statistics change at the end of a game only";
   return {};
 }
 
-void Referee::ExpectLoad() {
-  loaded_.reset();
-  try {
-    const std::string file = ThePlatform().ReadFile(SaveGameFile);
-    RecordReader record(file);
-    const int ours = record.TakeInteger();
-    loaded_ = Pair(ours, record.TakeInteger());
-  } catch (const GameError&) {
-    // the totals stay as they are
-  }
-}
-
 bool Referee::DealIsGood() {
-  if (isDealt_ || !HandInProgress || TrumpSuit < Diamonds) return true;
-  isDealt_ = true;
-  isScored_ = mayErase_ = false;
-  bids_.clear();
-  trick_.clear();
-  isPlayed_ = {};
-  tricksWon_ = {};
-  linesRead_ = 0;
-  leader_ = SeatAfter(Dealer);
+  if (hand_ || !HandInProgress || TrumpSuit < Diamonds) return true;
+  mayLoad_ = false;
+  hand_.emplace();
+  hand_->leader = SeatAfter(Dealer);
   ++handsDealt_;
-  for (int card = 1; card <= CardsInPack; ++card) dealtTo_[card] = Pack[card].Owner;
-  bool isGood = !loaded_ || *loaded_ == totals_;
+  for (int card = 1; card <= CardsInPack; ++card) hand_->dealtTo[card] = Pack[card].Owner;
   for (Integer seat = Player; seat <= East; ++seat)
-    isGood = isGood && HandOf(seat).Count() == CardsInSuit;
-  loaded_.reset();
-  return isGood;
+    if (HandOf(seat).Count() != CardsInSuit) return false;
+  return true;
 }
 
 bool Referee::ListTellsAPossiblePlay() {
   const ListBox& list = Table.LstCardsPlayed;
-  if (bids_.empty() && TrickNumber > 0) bids_.assign(Bids.begin(), Bids.end());
-  if (list.Count() < linesRead_) return false;
-  for (; linesRead_ < list.Count(); ++linesRead_) {
-    const int card = CardOfLine(list.Line(linesRead_));
-    if (card > 0 ? !TakeCard(card) : trick_.size() != SeatsAtTable) return false;
+  if (hand_->bids.empty() && TrickNumber > 0) hand_->bids.assign(Bids.begin(), Bids.end());
+  if (list.Count() < hand_->linesRead) return false;
+  for (; hand_->linesRead < list.Count(); ++hand_->linesRead) {
+    const int card = CardOfLine(list.Line(hand_->linesRead));
+    if (card > 0 ? !TakeCard(card) : hand_->trick.size() != SeatsAtTable) return false;
     if (card == 0) EndTrick();
   }
   return true;
@@ -106,32 +79,35 @@ bool Referee::ListTellsAPossiblePlay() {
 // A card is played once, by the seat that holds it, when it is the seat's turn, and it follows suit
 // where the seat can.
 bool Referee::TakeCard(int card) {
-  if (trick_.size() >= SeatsAtTable || isPlayed_[card]) return false;
-  const Integer seat = SeatAfter(leader_, static_cast<int>(trick_.size()));
-  if (dealtTo_[card] != seat) return false;
-  const Integer led = trick_.empty() ? Pack[card].Suit : Pack[trick_[0]].Suit;
+  if (hand_->trick.size() >= SeatsAtTable || hand_->isPlayed[card]) return false;
+  const Integer seat = SeatAfter(hand_->leader, static_cast<int>(hand_->trick.size()));
+  if (hand_->dealtTo[card] != seat) return false;
+  const Integer led = hand_->trick.empty() ? Pack[card].Suit : Pack[hand_->trick[0]].Suit;
   for (int other = 1; other <= CardsInPack && Pack[card].Suit != led; ++other)
-    if (Pack[other].Suit == led && dealtTo_[other] == seat && !isPlayed_[other]) return false;
-  isPlayed_[card] = true;
-  trick_.push_back(card);
+    if (Pack[other].Suit == led && hand_->dealtTo[other] == seat && !hand_->isPlayed[other])
+      return false;
+  hand_->isPlayed[card] = true;
+  hand_->trick.push_back(card);
   return true;
 }
 
 void Referee::EndTrick() {
   const auto winning = std::ranges::max_element(
-      trick_, [](int best, int card) { return Beats(Pack[card], Pack[best]); });
-  leader_ = SeatAfter(leader_, static_cast<int>(winning - trick_.begin()));
-  ++tricksWon_[leader_];
-  trick_.clear();
+      hand_->trick, [](int best, int card) { return Beats(Pack[card], Pack[best]); });
+  hand_->leader = SeatAfter(hand_->leader, static_cast<int>(winning - hand_->trick.begin()));
+  ++hand_->tricksWon[hand_->leader];
+  hand_->trick.clear();
 }
 
 void Referee::NoteScores() {
   const bool isGameOver = IsOpen("   Game Over");
-  if (isScored_ || !isDealt_ || (!isGameOver && !IsOpen("   Scores"))) return;
-  isScored_ = true;
+  if (!hand_ || hand_->isScored || (!isGameOver && !IsOpen("   Scores"))) return;
+  hand_->isScored = true;
   ++handsScored_;
-  totals_.first += PointsFor(tricksWon_[Player] + tricksWon_[North], bids_[Player] + bids_[North]);
-  totals_.second += PointsFor(tricksWon_[West] + tricksWon_[East], bids_[West] + bids_[East]);
+  totals_.first += PointsFor(hand_->tricksWon[Player] + hand_->tricksWon[North],
+                             hand_->bids[Player] + hand_->bids[North]);
+  totals_.second += PointsFor(hand_->tricksWon[West] + hand_->tricksWon[East],
+                              hand_->bids[West] + hand_->bids[East]);
   if (!isGameOver) return;
   isGameOver_ = true;
   ++gamesEnded_;
@@ -140,50 +116,42 @@ void Referee::NoteScores() {
 }
 
 bool Referee::CardsAreInOnePlaceEach() const {
-  if (!isDealt_ || !HandInProgress) return true;
+  if (!hand_ || !HandInProgress) return true;
   for (int card = 1; card <= CardsInPack; ++card)
-    if (Pack[card].Owner != (isPlayed_[card] ? NoSeat : dealtTo_[card])) return false;
+    if (Pack[card].Owner != (hand_->isPlayed[card] ? NoSeat : hand_->dealtTo[card])) return false;
   return true;
 }
 
 bool Referee::TrickAndTurnAgreeWithList() const {
-  const auto cardsPlayed = static_cast<int>(trick_.size());
-  if (PlayerTurn != False && (!isDealt_ || SeatAfter(leader_, cardsPlayed) != Player)) return false;
-  if (!isDealt_ || !HandInProgress) return true;
+  if (!hand_) return PlayerTurn == False;
+  const auto cardsPlayed = static_cast<int>(hand_->trick.size());
+  if (PlayerTurn != False && SeatAfter(hand_->leader, cardsPlayed) != Player) return false;
+  if (!HandInProgress) return true;
   for (int position = 1; position <= cardsPlayed; ++position) {
-    const int card = trick_[static_cast<std::size_t>(position - 1)];
+    const int card = hand_->trick[static_cast<std::size_t>(position - 1)];
     if (TrickCards[position] != card || TrickSuits[position] != Pack[card].Suit) return false;
   }
-  return std::ranges::equal(TricksWon, tricksWon_) &&
-         (bids_.empty() || std::ranges::equal(bids_, Bids));
+  return std::ranges::equal(TricksWon, hand_->tricksWon) &&
+         (hand_->bids.empty() || std::ranges::equal(hand_->bids, Bids));
 }
 
 // A game that is over leaves its totals until its dialog has been answered; the dialog comes again
 // when the player wants to leave and the game could not be saved.
 bool Referee::TotalsAreTheSumOfHands() {
   const Pair now{OurPoints, TheirPoints};
-  if (loaded_ == now) {
-    totals_ = now;
-    loaded_.reset();
-  }
+  if (mayLoad_) totals_ = now;
   if (isGameOver_ && now == Pair{}) {
     totals_ = {};
     isGameOver_ = false;
   }
-  if (IsOpen("   Scores") &&
-      (Table.StatusBar1[2].Caption != JoinText({"Your team points:- ", totals_.first}) ||
-       Table.StatusBar1[3].Caption != JoinText({"Their team points:- ", totals_.second})))
-    return false;
-  return now == totals_ && (!isGameOver_ || isDealt_);
+  return now == totals_ && (!isGameOver_ || hand_.has_value());
 }
 
+// They are erased on a yes only.
 bool Referee::StatisticsChangeAtTheEndOfAGame() {
   const Pair now{GamesWon, GamesPlayed};
   const bool isErased = MFormDeluxe.Label3 == "   Delete statistics?" && MessageChoice == 0;
-  if (mayErase_ && isErased && now == Pair{}) {
-    statistics_ = {};
-    mayErase_ = false;
-  }
+  if (isErased && !MFormDeluxe.Visible && now == Pair{}) statistics_ = {};
   return now == statistics_;
 }
 

@@ -14,15 +14,14 @@ namespace Parlino {
 class Referee {
  public:
   // The program begins, perhaps once more, with what it finds in its files.
-  void BeginProgram();
+  void BeginProgram() { programBegins_ = true; }
 
   // Looks at the table as it stands and returns the name of the first rule that is broken, or
   // nothing. To be asked at every chance to process events, or it loses the thread.
   std::string_view Look();
 
-  // The player loads the saved game, or is asked whether to erase the statistics.
-  void ExpectLoad();
-  void ExpectErasing() { mayErase_ = true; }
+  // The player loads the saved game.
+  void ExpectLoad() { mayLoad_ = true; }
 
   [[nodiscard]] int HandsDealt() const { return handsDealt_; }
   [[nodiscard]] int HandsScored() const { return handsScored_; }
@@ -41,22 +40,23 @@ class Referee {
   bool TotalsAreTheSumOfHands();
   bool StatisticsChangeAtTheEndOfAGame();
 
-  bool isDealt_ = false;
-  bool isScored_ = false;
-  Indexed<Integer, 1, CardsInPack> dealtTo_;
-  Indexed<bool, 1, CardsInPack> isPlayed_;
-  int linesRead_ = 0;
-  std::vector<int> trick_;
-  std::vector<Integer> bids_;
-  Integer leader_ = Player;
-  Indexed<Integer, 0, 3> tricksWon_;
+  struct Hand {
+    bool isScored = false;
+    Indexed<Integer, 1, CardsInPack> dealtTo;
+    Indexed<bool, 1, CardsInPack> isPlayed;
+    int linesRead = 0;
+    std::vector<int> trick;
+    std::vector<Integer> bids;
+    Integer leader = Player;
+    Indexed<Integer, 0, 3> tricksWon;
+  };
+  std::optional<Hand> hand_;  // the one dealt last
 
   bool programBegins_ = true;
   Pair totals_;
-  std::optional<Pair> loaded_;
+  bool mayLoad_ = false;
   bool isGameOver_ = false;
   Pair statistics_;
-  bool mayErase_ = false;
 
   int handsDealt_ = 0;
   int handsScored_ = 0;

@@ -14,24 +14,6 @@ bool Shows(const Label& label, int number) {
   return label.Caption == std::to_string(number);
 }
 
-bool HandsDifferByACard() {
-  const auto counts = {HandOf(Player).Count(), HandOf(West).Count(), HandOf(North).Count(),
-                       HandOf(East).Count()};
-  return !HandInProgress || std::max(counts) - std::min(counts) <= 1;
-}
-
-bool OwnersAreSeats() {
-  return std::ranges::all_of(Pack, [](const Card& card) {
-    return card.Owner == NoSeat || (card.Owner >= Player && card.Owner <= East);
-  });
-}
-
-// Between two tricks the counts agree; within a trick one has not been counted yet.
-bool TricksAddUp() {
-  const int won = OurTricks() + TheirTricks();
-  return won == TrickNumber || won == TrickNumber - 1;
-}
-
 // The counter of a pile is raised before its picture is shown, while the trick is moved off.
 bool PilesShowTricks() {
   int missing = 0;
@@ -93,9 +75,6 @@ std::string_view BrokenTableRule() {
     std::string_view name;
     bool (*holds)();
   } rules[] = {
-      {"every owner is a seat or nobody", OwnersAreSeats},
-      {"hands differ by one card at the most", HandsDifferByACard},
-      {"tricks won add up to the tricks played", TricksAddUp},
       {"trick piles show the tricks won", PilesShowTricks},
       {"trick captions tell the tricks won", CaptionsTellTricks},
       {"bids on the table are those made", CaptionsTellBids},

@@ -3,6 +3,7 @@
 // program's code is the one that is delivered.
 #pragma once
 
+#include <functional>
 #include <string_view>
 #include <vector>
 
@@ -11,39 +12,27 @@ namespace Parlino {
 enum class Manner {
   Once,      // this call fails, those after it work
   FromHere,  // this call fails and all after it
-  Short,     // a write that takes one byte only, and after it every write fails
   Bit,       // a write that takes one byte only
-  Killed,    // the process is killed before this call
   Nothing,   // from this call on no write takes a byte, and none fails
+  Killed,    // the process is killed before this call
 };
 
 struct Fault {
-  std::size_t call = 0;  // counted from 1; 0 for no fault
-  int number = 0;        // the system's number of the error
+  int number = 0;  // the system's number of the error
   Manner manner = Manner::Once;
+  std::size_t call = 0;  // counted from 1; 0 for no fault
 };
 
-// Counts the calls while it lives, and makes the fault. Nothing is flushed to the disk at any time:
-// nobody cuts the power of a test.
-class FaultySystem {
- public:
-  explicit FaultySystem(const Fault& fault = {});
-  FaultySystem(const FaultySystem&) = delete;
-  FaultySystem& operator=(const FaultySystem&) = delete;
-  ~FaultySystem();
+using Calls = std::vector<std::string_view>;  // names, in order
 
-  // From now on everything works; the calls are not counted any more.
-  void Mend();
-  // Names of the calls so far, in order.
-  [[nodiscard]] const std::vector<std::string_view>& Calls() const { return calls_; }
+// From now on counts the calls and makes the fault. Afterwards everything works again; returns the
+// calls.
+void BeginFault(const Fault& fault);
+Calls EndFault();
 
-  // Whether this call, the next one, shall fail; sets errno. Asked by the calls themselves.
-  bool Fails(std::string_view call);
-  [[nodiscard]] bool IsAt(Manner manner) const;
-
- private:
-  Fault fault_;
-  std::vector<std::string_view> calls_;
-};
+// Does something without a fault, and then with each of these faults at each of the calls that it
+// made. `tryOnce` does it afresh, checks what has come of it, and returns the calls.
+void TryAtEveryCall(const std::vector<Fault>& faults,
+                    const std::function<Calls(const Fault&)>& tryOnce);
 
 }  // namespace Parlino

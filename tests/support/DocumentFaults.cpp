@@ -1,6 +1,7 @@
 #include "tests/support/DocumentFaults.h"
 
-#include <string_view>
+#include <algorithm>
+#include <locale>
 
 #include "richtext/Limits.h"
 
@@ -10,23 +11,11 @@ namespace {
 constexpr std::size_t FreeBytes = 4'096;
 constexpr std::size_t BytesPerSourceByte = 160;
 
-// The length of the character that `text` begins with; 0 for what is none or has no place in text.
-std::size_t CharacterLength(std::string_view text) {
-  const auto lead = static_cast<unsigned char>(text[0]);
-  if (lead < 0x80) return lead == '\t' || lead == '\n' || (lead >= 0x20 && lead != 0x7F) ? 1 : 0;
-  const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-  if (lead < 0xC2 || lead > 0xF4 || text.size() < length) return 0;
-  char32_t character = lead & (0x7FU >> length);
-  for (const char each : text.substr(1, length - 1)) {
-    const auto byte = static_cast<unsigned char>(each);
-    if ((byte & 0xC0) != 0x80) return 0;
-    character = (character << 6) | (byte & 0x3FU);
-  }
-  constexpr char32_t Least[] = {0, 0, 0xA0, 0x800, 0x10000};
-  const bool isSurrogate = character >= 0xD800 && character <= 0xDFFF;
+bool HasPlaceInText(char32_t character) {
+  const bool isControl = character < 0x20 && character != '\t' && character != '\n';
+  const bool isOldControl = character >= 0x7F && character < 0xA0;
   const bool isSeparator = character == 0x2028 || character == 0x2029;
-  const bool isNone = character < Least[length] || isSurrogate || character > 0x10FFFF;
-  return isNone || isSeparator ? 0 : length;
+  return !isControl && !isOldControl && !isSeparator;
 }
 
 class Inspector {
@@ -52,13 +41,20 @@ class Inspector {
     Expect(twips >= least && twips <= FurthestTwips, "a distance out of bounds");
   }
 
-  void InspectText(std::string_view text) {
-    while (!text.empty()) {
-      const std::size_t length = CharacterLength(text);
-      if (length == 0) return Expect(false, "text that is no UTF-8 or is a control character");
-      ++characters_;
-      text.remove_prefix(length);
-    }
+  void InspectText(const std::string& text) {
+    std::u32string characters(text.size(), 0);
+    std::mbstate_t state{};
+    const auto& utf8 =
+        std::use_facet<std::codecvt<char32_t, char8_t, std::mbstate_t>>(std::locale::classic());
+    const auto* from = reinterpret_cast<const char8_t*>(text.data());
+    const char8_t* end = nullptr;
+    char32_t* last = nullptr;
+    const auto result = utf8.in(state, from, from + text.size(), end, characters.data(),
+                                characters.data() + characters.size(), last);
+    characters.resize(static_cast<std::size_t>(last - characters.data()));
+    Expect(text.empty() || result == std::codecvt_base::ok, "text that is no UTF-8");
+    Expect(std::ranges::all_of(characters, HasPlaceInText), "a control character");
+    characters_ += characters.size();
   }
 
   void Inspect(const Table& table) {

@@ -229,19 +229,23 @@ std::string CardName(int card) {
   return std::string(1, "DCHS"[place / CardsInSuit]) + "-" + values[place % CardsInSuit];
 }
 
-std::string Quote(std::string_view text) {
-  std::string quoted = "\"";
+std::string ShowLineEnds(std::string_view text) {
+  std::string shown;
   for (const char character : text) {
     if (character == '\r')
-      quoted += "\\r";
+      shown += "\\r";
     else if (character == '\n')
-      quoted += "\\n";
+      shown += "\\n";
     else if (character == '\0')
-      quoted += "\\0";
+      shown += "\\0";
     else
-      quoted += character;
+      shown += character;
   }
-  return quoted + "\"";
+  return shown;
+}
+
+std::string Quote(std::string_view text) {
+  return "\"" + ShowLineEnds(text) + "\"";
 }
 
 }  // namespace Parlino

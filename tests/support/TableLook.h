@@ -39,7 +39,8 @@ std::vector<std::string> DescribeChanges(TableLook before, const TableLook& afte
 // A card as the transcripts name it: "S-A", "H-10".
 std::string CardName(int card);
 
-// The text in quotes, with line ends that can be seen.
+// The text with line ends that can be seen; and in quotes.
+std::string ShowLineEnds(std::string_view text);
 std::string Quote(std::string_view text);
 
 }  // namespace Parlino

@@ -99,59 +99,14 @@ void TranscribedPlatform::ProcessEvents(std::uint32_t atMostMs) {
   HeadlessPlatform::ProcessEvents(atMostMs);
 }
 
-void TranscribedPlatform::StartSound(std::string_view fileName) {
-  if (detail == Detail::EveryPause) Note("sound " + std::string(fileName));
-}
-
-std::string TranscribedPlatform::InputBox(std::string_view prompt, std::string_view title,
-                                          std::string_view defaultAnswer) {
-  Note("asks " + Quote(prompt) + " titled " + Quote(title) + " offering " + Quote(defaultAnswer));
-  std::string answer = HeadlessPlatform::InputBox(prompt, title, defaultAnswer);
-  Note("> " + Quote(answer));
-  return answer;
-}
-
-void TranscribedPlatform::MsgBox(std::string_view text, std::string_view title, bool critical) {
-  Note((critical ? "critical box " : "box ") + Quote(text) + " titled " + Quote(title));
-  HeadlessPlatform::MsgBox(text, title, critical);
-}
-
-void TranscribedPlatform::CloseWindow(WindowName window) {
-  constexpr const char* names[] = {"frmAbout", "MFormDeluxe", "FrmMain", "frmHelp"};
-  Note(std::string("closes ") + names[static_cast<int>(window)]);
-}
-
-std::string TranscribedPlatform::ReadFile(std::string_view fileName) {
-  Note("reads " + std::string(fileName));
-  return HeadlessPlatform::ReadFile(fileName);
-}
-
 std::string TranscribedPlatform::ReplaceFile(std::string_view fileName, std::string_view content) {
-  Note("writes " + std::string(fileName) + " " + Quote(content));
-  return HeadlessPlatform::ReplaceFile(fileName, content);
+  const std::string none = HeadlessPlatform::ReplaceFile(fileName, content);
+  return unreadFiles.erase(std::string(fileName)) == 0 ? none : std::string(fileName) + ".bad";
 }
 
-std::string TranscribedPlatform::SetFileAside(std::string_view fileName) {
-  Note("sets aside " + std::string(fileName));
-  return HeadlessPlatform::SetFileAside(fileName);
-}
-
-std::optional<RegistryKey> TranscribedPlatform::OpenRegistryKey(std::uint32_t root,
-                                                                std::string_view name,
-                                                                std::uint32_t rights) {
-  const auto key = HeadlessPlatform::OpenRegistryKey(root, name, rights);
-  Note((key ? "opens key " : "cannot open key ") + std::string(name));
-  return key;
-}
-
-void TranscribedPlatform::CloseRegistryKey(RegistryKey key) {
-  Note("closes key");
-  HeadlessPlatform::CloseRegistryKey(key);
-}
-
-void TranscribedPlatform::StartProgram(std::string_view path) {
-  HeadlessPlatform::StartProgram(path);
-  Note("starts " + std::string(path));
+void TranscribedPlatform::Record(Pieces line) {
+  const std::string text = JoinText(line);
+  if (detail == Detail::EveryPause || !text.starts_with("sound ")) Note(ShowLineEnds(text));
 }
 
 }  // namespace Parlino

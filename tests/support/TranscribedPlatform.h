@@ -1,6 +1,7 @@
 // The platform without a window that writes down what a player sees and hears.
 #pragma once
 
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,6 +21,9 @@ class TranscribedPlatform : public HeadlessPlatform {
   // the player is waited for, or of the table nothing but the status bar.
   enum class Detail { EveryPause, EveryWait, StatusBar };
   Detail detail = Detail::EveryPause;
+  // Files that could not be read at the start and are kept under another name when they are
+  // replaced.
+  std::set<std::string, std::less<>> unreadFiles;
 
   // To be called when the game is set up. What the table looks like then is written down, or only
   // kept in mind.
@@ -28,18 +32,10 @@ class TranscribedPlatform : public HeadlessPlatform {
   void Note(const std::string& line);
 
   void ProcessEvents(std::uint32_t atMostMs) override;
-  void StartSound(std::string_view fileName) override;
-  std::string InputBox(std::string_view prompt, std::string_view title,
-                       std::string_view defaultAnswer) override;
-  void MsgBox(std::string_view text, std::string_view title, bool critical) override;
-  void CloseWindow(WindowName window) override;
-  std::string ReadFile(std::string_view fileName) override;
   std::string ReplaceFile(std::string_view fileName, std::string_view content) override;
-  std::string SetFileAside(std::string_view fileName) override;
-  std::optional<RegistryKey> OpenRegistryKey(std::uint32_t root, std::string_view name,
-                                             std::uint32_t rights) override;
-  void CloseRegistryKey(RegistryKey key) override;
-  void StartProgram(std::string_view path) override;
+
+ protected:
+  void Record(Pieces line) override;
 
  private:
   void NoteChanges();

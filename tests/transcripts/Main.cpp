@@ -3,14 +3,16 @@
 //
 //   parlino-transcripts [--accept]
 //
-// Prints the lines around the first difference of each scene and ends with status 1 if there is
-// one; --accept keeps what the game shows now instead.
+// Prints the lines around the first differences of each scene and ends with status 1 if there are
+// any; --accept keeps what the game shows now instead.
 
 #include <algorithm>
+#include <cstdlib>
 #include <fstream>
 #include <iostream>
 #include <string>
 
+#include "tests/support/TemporaryFolder.h"
 #include "tests/transcripts/Scenes.h"
 
 namespace Parlino {
@@ -34,33 +36,22 @@ std::string PathOf(const Scene& scene) {
   return PARLINO_SOURCE_FOLDER "/tests/transcripts/" + std::string(scene.name) + ".txt";
 }
 
-void Keep(const Scene& scene) {
-  std::ofstream file(PathOf(scene));
+void Write(const Scene& scene, const std::string& path) {
+  std::ofstream file(path);
   for (const std::string& line : Play(scene)) file << line << "\n";
 }
 
-void PrintLines(std::string_view what, const Lines& lines, std::size_t first, std::size_t count) {
-  std::cout << what << "\n";
-  for (std::size_t line = first; line < std::min(first + count, lines.size()); ++line)
-    std::cout << line + 1 << ": " << lines[line] << "\n";
+void Keep(const Scene& scene) {
+  Write(scene, PathOf(scene));
 }
 
 bool IsAsKept(const Scene& scene) {
-  Lines kept;
-  std::ifstream file(PathOf(scene));
-  for (std::string line; std::getline(file, line);) kept.push_back(line);
-  const Lines now = Play(scene);
-  const auto [keptEnd, nowEnd] = std::ranges::mismatch(kept, now);
-  if (keptEnd == kept.end() && nowEnd == now.end()) return true;
-  constexpr std::size_t linesBefore = 3;
-  constexpr std::size_t linesAfter = 4;
-  const auto place = static_cast<std::size_t>(keptEnd - kept.begin());
-  const std::size_t first = place - std::min(place, linesBefore);
-  std::cout << scene.name << " is another from line " << place + 1 << " on\n";
-  PrintLines("--- before", kept, first, place - first);
-  PrintLines("--- expected", kept, place, linesAfter);
-  PrintLines("--- actual", now, place, linesAfter);
-  return false;
+  const TemporaryFolder folder;
+  const std::string actual = folder.Path() / "actual";
+  Write(scene, actual);
+  const std::string command =
+      "diff -U4 '" + PathOf(scene) + "' " + actual + " | head -n 20 | grep .";
+  return std::system(command.c_str()) != 0;
 }
 
 }  // namespace

@@ -326,6 +326,8 @@ void PlayInTrouble(TranscribedPlatform& platform) {
   PlayWithErrors(platform);
   for (const char* saved : {"10,20,#TRUE#\r\n", "1000,0,#TRUE#\r\n"})
     PlayWithoutRoom(platform, saved);
+  platform.unreadFiles = {"SaveGame.dat", "Points.dat"};
+  PlayFrom(platform, "1000,0,#TRUE#", 1, 3);
   StartInTrouble(platform);
 }
 

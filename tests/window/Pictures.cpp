@@ -11,6 +11,8 @@
 #include <QPainter>
 #include <QTextEdit>
 
+#include "WindowLook.h"
+
 namespace Parlino {
 namespace {
 
@@ -142,9 +144,7 @@ std::string Differences(const QImage& actual, QImage expected, const std::vector
 
 // With what the window has painted below it.
 QImage PictureOf(QWidget& widget) {
-  QWidget* window = widget.window();
-  const QRect place(widget.mapTo(window, QPoint()), widget.size());
-  return window->grab(place).toImage().convertToFormat(QImage::Format_RGB32);
+  return ShotOf(widget);
 }
 
 QString PathOf(const QString& name) {
@@ -153,14 +153,10 @@ QString PathOf(const QString& name) {
 
 }  // namespace
 
-std::string DifferencesFromKept(QWidget& widget, const QString& name) {
-  const QImage expected = QImage(PathOf(name)).convertToFormat(QImage::Format_RGB32);
-  return Differences(PictureOf(widget), expected, PlacesOfLetters(widget));
-}
-
 void ExpectAsKept(QWidget& widget, const QString& name) {
   if (picturesAreAccepted) PictureOf(widget).save(PathOf(name));
-  const std::string differences = DifferencesFromKept(widget, name);
+  const QImage expected = QImage(PathOf(name)).convertToFormat(QImage::Format_RGB32);
+  const std::string differences = Differences(PictureOf(widget), expected, PlacesOfLetters(widget));
   if (differences.empty()) return;
   PictureOf(widget).save(name + ".actual.png");
   ADD_FAILURE() << "Not as in " << PathOf(name).toStdString() << ":\n"

@@ -17,12 +17,18 @@ void QuickPlatform::WaitForQt(std::uint32_t atMostMs) {
   person();
   if (atMostMs != Forever) ticks += atMostMs;
   QtPlatform::WaitForQt(0);
+  if (cardsGlide) Motion().Allow(*cardsGlide);
 }
 
 double QuickPlatform::ClockSeconds() {
   constexpr double secondsInDay = 86'400;
   constexpr double msInSecond = 1000;
   return std::fmod(clockAtStart + ticks / msInSecond, secondsInDay);
+}
+
+void QuickPlatform::StartSound(std::string_view fileName) {
+  onSound(std::string(fileName));
+  QtPlatform::StartSound(fileName);
 }
 
 WindowGame::WindowGame(std::uint64_t seed) : platform(folder.path().toStdString()) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include <QDialog>
 #include <QTemporaryDir>
@@ -27,12 +28,16 @@ class QuickPlatform : public QtPlatform {
   // The person at the window: called before every wait, when the table is shown as it is in the
   // model.
   std::function<void()> person = [] {};
+  std::function<void(const std::string& file)> onSound = [](const std::string&) {};
   std::uint32_t ticks = 0;
+  // Whether cards glide, whatever the desktop answers; unless it is set, the desktop decides.
+  std::optional<bool> cardsGlide;
   // Of the clock on the wall, which is mixed into the deals.
   double clockAtStart = 43'200;
 
   std::uint32_t Ticks() override { return ticks; }
   double ClockSeconds() override;
+  void StartSound(std::string_view fileName) override;
 
  protected:
   void WaitForQt(std::uint32_t atMostMs) override;

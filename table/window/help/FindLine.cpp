@@ -81,10 +81,11 @@ void FindLine::Open() {
   words_->selectAll();
 }
 
+// The focus goes first: otherwise Qt would give it to the next button, which tools would read out.
 void FindLine::Close() {
+  text_.setFocus();
   hide();
   note_->clear();
-  text_.setFocus();
 }
 
 // While the player is typing, each search starts again at the place found so far.
