@@ -37,6 +37,7 @@ QString PlainToolTip(const QString& text);
 
 namespace Colours {
 inline constexpr QColor Navy(0, 0, 64);
+inline constexpr QColor Slate(64, 64, 128);
 inline constexpr QColor LightYellow(255, 255, 192);
 inline constexpr QColor Yellow(255, 255, 0);
 inline constexpr QColor Green(0, 128, 0);
