@@ -55,7 +55,7 @@ std::string_view Referee::Look() {
 bool Referee::DealIsGood() {
   if (hand_ || !HandInProgress || TrumpSuit < Diamonds) return true;
   mayLoad_ = false;
-  hand_.emplace();
+  hand_ = Hand();
   hand_->leader = SeatAfter(Dealer);
   ++handsDealt_;
   for (int card = 1; card <= CardsInPack; ++card) hand_->dealtTo[card] = Pack[card].Owner;

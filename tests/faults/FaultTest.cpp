@@ -6,7 +6,6 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <map>
-#include <ranges>
 
 #include "game/Game.h"
 #include "headless/HeadlessInFolder.h"
@@ -108,7 +107,7 @@ Calls GiveANameTwice(bool behindLinks, const Fault& fault) {
   game.platform.answerInputBox = [](auto, auto, auto) { return "Ann, the first"; };
   BeginFault(fault);
   EXPECT_TRUE(ChooseMenu(MenuItem::MnuNameBot1));
-  const Calls calls = EndFault();
+  Calls calls = EndFault();
   const std::string content = folder.Files().at("Names2.dat");
   const bool isSaved = content == newRecord;
   EXPECT_TRUE(isSaved || content == expected.at("Names2.dat")) << content;
@@ -143,7 +142,7 @@ Calls StartAndSave(const Disk& files, bool behindLinks, const Fault& fault) {
   GameOnDisk game(folder);
   BeginFault(fault);
   Events.Form_Load();
-  const Calls calls = EndFault();
+  Calls calls = EndFault();
   EXPECT_TRUE(Table.FrmMain.Visible);
   for (const RecordDoor& door : RecordDoors) EXPECT_TRUE(door.save()) << door.file;
   const Disk after = folder.Files();
@@ -167,10 +166,9 @@ TEST(ReadFaults, AtTheStartLoseNothingThatIsSavedLater) {
                     {"Points.dat", "3,7,8"},
                     {"SaveGame.dat", "1,2"},
                     {"Welcome.dat", "yes"}};
-  for (const auto& [files, behindLinks] :
-       {std::pair(HandWritten, false), std::pair(bad, false), std::pair(bad, true)})
-    TryAtEveryCall(Faults,
-                   [&](const Fault& fault) { return StartAndSave(files, behindLinks, fault); });
+  for (const auto& disk : {std::pair(HandWritten, false), {bad, false}, {bad, true}})
+    TryAtEveryCall(
+        Faults, [&](const Fault& fault) { return StartAndSave(disk.first, disk.second, fault); });
 }
 
 TEST(ReadFaults, LeaveTheUnreadFileSomewhereWhenItsSavingFailsToo) {
@@ -179,13 +177,14 @@ TEST(ReadFaults, LeaveTheUnreadFileSomewhereWhenItsSavingFailsToo) {
       const TestFolder folder(HandWritten, behindLinks);
       const GameOnDisk game(folder);
       const auto isThere = [&] {
-        return std::ranges::count(std::views::values(folder.Files()), "03,07\n") > 0;
+        return std::ranges::any_of(folder.Files(),
+                                   [](const auto& file) { return file.second == "03,07\n"; });
       };
       BeginFault({EIO, Manner::FromHere, 1});
       Events.Form_Load();
       BeginFault(fault);
       const bool isSaved = SavePoints();
-      const Calls calls = EndFault();
+      Calls calls = EndFault();
       EXPECT_TRUE(isSaved || calls[fault.call - 1] != "link") << "some disks have no links";
       EXPECT_TRUE(isThere());
       EXPECT_TRUE(SavePoints());

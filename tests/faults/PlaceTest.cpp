@@ -101,7 +101,7 @@ Calls TryPlace(Row& row, const Fault& fault) {
   EXPECT_EQ(::seteuid(PlayersNumber()), 0);
   BeginFault(fault);
   for (const std::string& action : Split(row["does"])) told += Act(files, action);
-  const Calls calls = EndFault();
+  Calls calls = EndFault();
   EXPECT_EQ(::seteuid(::getuid()), 0);
   EXPECT_EQ(::umask(mask), PermissionsOf(row["unwanted"])) << "it is another one afterwards";
   const bool isWritten = row["told"].empty();

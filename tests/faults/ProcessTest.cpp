@@ -29,7 +29,7 @@ Calls SaveAndDie(const Fault& fault) {
   const pid_t saver = fault.call == 0 ? 0 : ::fork();
   BeginFault(fault);
   if (saver == 0) files.Replace(File, Record('b'));
-  const Calls calls = EndFault();
+  Calls calls = EndFault();
   EXPECT_TRUE(saver == 0 || ::waitpid(saver, nullptr, 0) == saver);
   const std::string content = files.Read(File);
   EXPECT_TRUE(content == Record('b') || (fault.call != 0 && content == Record('a')));

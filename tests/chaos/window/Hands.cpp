@@ -206,7 +206,7 @@ void DoAnythingByHand(Chaos& chaos) {
                {"strike any key", 300, StrikeAnyKey},
                {"write anything", 60, WriteAnything},
                {"change any window", 140, ChangeAnyWindow},
-               {"end the session", 1, EndSession}};
+               {"end the session", 3, EndSession}};
   if (WindowsThere().isEmpty()) return;
   const auto deed = chaos.person.OneByWeight(deeds);
   chaos.Note(deed.name);
