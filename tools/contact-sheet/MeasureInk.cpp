@@ -35,7 +35,7 @@ struct Mark {
   QRect box;
 };
 constexpr std::array Marks{
-    Mark{"index pip", 2, {4, 27, 18, 17}}, Mark{"pip of a two", 2, {37, 3, 22, 30}},
+    Mark{"index pip", 2, {4, 27, 18, 17}}, Mark{"pip of a two", 2, {31, 3, 21, 30}},
     Mark{"pip of a four", 4, {27, 2, 15, 24}}, Mark{"pip of a ten", 10, {27, 2, 14, 22}},
     Mark{"trump tile", 0, {4, 2, 40, 44}}};
 constexpr QRect IndexBox(2, 5, 22, 38);

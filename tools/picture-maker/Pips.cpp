@@ -3,8 +3,15 @@
 namespace Parlino {
 namespace {
 
-constexpr double MiddleX = 47.5, MiddleY = 48, ToTheSide = 13;
+constexpr double FieldX = 47.5, MiddleY = 48, ToTheSide = 13;
 constexpr int LastLargeValue = 3;
+
+// The few large pips stand between the middle of the card and that of the field: the card would
+// lean to one side otherwise.
+double PlaceMiddleColumn(int value) {
+  constexpr double balancedX = 41.5;
+  return value <= LastLargeValue ? balancedX : FieldX;
+}
 
 std::vector<double> PlaceSideRows(int value) {
   switch (value) {
@@ -48,10 +55,10 @@ std::vector<double> PlaceMiddleRows(int value) {
 std::vector<Spot> PlacePips(int value) {
   std::vector<Spot> spots;
   for (const double y : PlaceSideRows(value)) {
-    spots.push_back({MiddleX - ToTheSide, y});
-    spots.push_back({MiddleX + ToTheSide, y});
+    spots.push_back({FieldX - ToTheSide, y});
+    spots.push_back({FieldX + ToTheSide, y});
   }
-  for (const double y : PlaceMiddleRows(value)) spots.push_back({MiddleX, y});
+  for (const double y : PlaceMiddleRows(value)) spots.push_back({PlaceMiddleColumn(value), y});
   return spots;
 }
 
