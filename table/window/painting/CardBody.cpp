@@ -125,7 +125,7 @@ void CardBody::PaintShadows(QPainter& painter, const QObjectList& things, QPoint
   QRect last;
   for (const QObject* thing : things) {
     const auto* body = dynamic_cast<const CardBody*>(thing);
-    if (body == nullptr || body->isHidden()) continue;
+    if (body == nullptr || body->isHidden() || !body->IsSolid()) continue;
     const QRect box = body->ShadowBox(body->geometry()).translated(-origin);
     if (!box.intersects(part) || AreAsOne(box, last)) continue;
     last = box;

@@ -21,6 +21,9 @@ class CardBody : public QWidget {
  protected:
   bool event(QEvent* event) override;
 
+  // Whether there is something that casts a shadow.
+  [[nodiscard]] virtual bool IsSolid() const { return true; }
+
  private:
   static void PaintShadows(QPainter& painter, const QObjectList& things, QPoint origin,
                            const QRect& part);

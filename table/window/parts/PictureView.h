@@ -33,6 +33,7 @@ class PictureView : public CardBody {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  [[nodiscard]] bool IsSolid() const override { return picture_ != 0; }
 
  private:
   void ShowPointer(Integer picture);

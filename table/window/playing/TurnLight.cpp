@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <QPainter>
+#include <QPainterPath>
 
 #include "engine/state/Questions.h"
 #include "table/CardDisplay.h"
@@ -62,16 +63,20 @@ QColor Faint(int alpha) {
   return colour;
 }
 
-// A line of light around the box, with a glow that fades to the outside.
+// A line of light around the box, with a glow that fades to the outside: layers one upon another,
+// each a little smaller.
 void DrawRing(QPainter& painter, const QRectF& box, int thickness) {
-  constexpr int reach = 7;
+  constexpr int reach = 8;
   constexpr int corner = 7;
-  painter.setBrush(Qt::NoBrush);
-  for (int step = 1; step <= reach; ++step) {
-    const qreal out = thickness / 2.0 + step;
-    painter.setPen(QPen(Faint(90 - 12 * step), 1.5));
-    painter.drawRoundedRect(box.adjusted(-out, -out, out, out), corner + step, corner + step);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(Faint(16));
+  for (int out = reach; out > 0; --out) {
+    QPainterPath layer;
+    layer.addRoundedRect(box.adjusted(-out, -out, out, out), corner + out, corner + out);
+    layer.addRoundedRect(box, corner, corner);
+    painter.drawPath(layer);
   }
+  painter.setBrush(Qt::NoBrush);
   painter.setPen(QPen(Light, thickness));
   painter.drawRoundedRect(box, corner, corner);
 }
