@@ -1,10 +1,8 @@
 #include "table/window/painting/FrameBox.h"
 
 #include <QFontMetrics>
-#include <QPaintEvent>
 #include <QPainter>
 
-#include "table/window/painting/CardBody.h"
 #include "table/window/painting/Edges.h"
 #include "table/window/painting/WrappedText.h"
 
@@ -40,20 +38,12 @@ void FrameBox::paintEvent(QPaintEvent*) {
   DrawLine(painter, caption, title(), look_.font);
 }
 
-// Not marked as opaque: Qt would not repaint it when a shadow on the table changes.
-FilledBox::FilledBox(const QColor& fill, QWidget* parent) : QWidget(parent), fill_(fill) {}
-
-void FilledBox::SetBorder(const QColor& colour, int width) {
-  border_ = colour;
-  borderWidth_ = width;
+FilledBox::FilledBox(const QColor& fill, QWidget* parent) : QWidget(parent), fill_(fill) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void FilledBox::paintEvent(QPaintEvent* event) {
-  QPainter painter(this);
-  if (borderWidth_ > 0) painter.fillRect(rect(), border_);
-  const int width = borderWidth_;
-  painter.fillRect(rect().adjusted(width, width, -width, -width), fill_);
-  if (parentWidget() != nullptr) CardBody::PaintShadowsOn(painter, *this, event->rect());
+void FilledBox::paintEvent(QPaintEvent*) {
+  QPainter(this).fillRect(rect(), fill_);
 }
 
 }  // namespace Parlino
