@@ -135,7 +135,6 @@ void TurnLight::LookAtTrick(Lit& lit) const {
   }
   for (int place = SeatsAtTable - 1; place >= 0; --place)
     if (const Integer seat = SeatAfter(Leader, place); played[seat] == nullptr) lit.seat = seat;
-  if (lit.seat == Player) lit.seat = NoSeat;
 }
 
 void TurnLight::DimOthers() const {
