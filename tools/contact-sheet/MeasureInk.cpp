@@ -35,8 +35,8 @@ struct Mark {
   QRect box;
 };
 constexpr std::array Marks{
-    Mark{"index pip", 2, {4, 27, 18, 17}}, Mark{"pip of a two", 2, {31, 3, 21, 30}},
-    Mark{"pip of a four", 4, {27, 2, 15, 24}}, Mark{"pip of a ten", 10, {27, 2, 14, 22}},
+    Mark{"index pip", 2, {4, 27, 18, 17}}, Mark{"pip of a two", 2, {28, 3, 21, 30}},
+    Mark{"pip of a four", 4, {26, 1, 15, 24}}, Mark{"pip of a ten", 10, {26, 1, 14, 22}},
     Mark{"trump tile", 0, {4, 2, 40, 44}}};
 constexpr QRect IndexBox(2, 5, 22, 38);
 

@@ -3,13 +3,13 @@
 namespace Parlino {
 namespace {
 
-constexpr double FieldX = 47.5, MiddleY = 48, ToTheSide = 13;
+constexpr double FieldX = 46.5, MiddleY = 48, ToTheSide = 13;
 constexpr int LastLargeValue = 3;
 
 // The few large pips stand between the middle of the card and that of the field: the card would
 // lean to one side otherwise.
 double PlaceMiddleColumn(int value) {
-  constexpr double balancedX = 41.5;
+  constexpr double balancedX = 38.5;
   return value <= LastLargeValue ? balancedX : FieldX;
 }
 
@@ -17,14 +17,14 @@ std::vector<double> PlaceSideRows(int value) {
   switch (value) {
     case 4:
     case 5:
-      return {14, 82};
+      return {12, 84};
     case 6:
     case 7:
     case 8:
-      return {14, 48, 82};
+      return {12, 48, 84};
     case 9:
     case 10:
-      return {14, 37, 59, 82};
+      return {12, 36, 60, 84};
     default:
       return {};
   }
@@ -33,18 +33,18 @@ std::vector<double> PlaceSideRows(int value) {
 std::vector<double> PlaceMiddleRows(int value) {
   switch (value) {
     case 2:
-      return {17, 79};
+      return {16, 80};
     case 3:
-      return {17, 48, 79};
+      return {16, 48, 80};
     case 5:
     case 9:
       return {48};
     case 7:
-      return {31};
+      return {30};
     case 8:
-      return {31, 65};
+      return {30, 66};
     case 10:
-      return {25, 71};
+      return {24, 72};
     default:
       return {};
   }
