@@ -111,21 +111,27 @@ bool CardBody::event(QEvent* event) {
 }
 
 void CardBody::PaintShadowsOnTable(QPainter& painter, const QWidget& table, const QRect& part) {
-  PaintShadows(painter, table.children(), {}, part);
+  PaintShadows(painter, table.children(), 0, {}, part);
 }
 
 // The children of the table are in their order from the back to the front.
 void CardBody::PaintShadowsOn(QPainter& painter, const QWidget& ground, const QRect& part) {
   const QObjectList& things = ground.parentWidget()->children();
-  PaintShadows(painter, things.mid(things.indexOf(&ground) + 1), ground.pos(), part);
+  PaintShadows(painter, things, things.indexOf(&ground) + 1, ground.pos(), part);
 }
 
-void CardBody::PaintShadows(QPainter& painter, const QObjectList& things, QPoint origin,
-                            const QRect& part) {
+// Each of many cards asks for all that lie above it, so what is far away is left out first.
+void CardBody::PaintShadows(QPainter& painter, const QObjectList& things, qsizetype first,
+                            QPoint origin, const QRect& part) {
+  constexpr int furthest = 15;
+  const QRect near = part.translated(origin).adjusted(-furthest, -furthest, furthest, furthest);
   QRect last;
-  for (const QObject* thing : things) {
-    const auto* body = dynamic_cast<const CardBody*>(thing);
-    if (body == nullptr || body->isHidden() || !body->IsSolid()) continue;
+  for (qsizetype place = first; place < things.size(); ++place) {
+    if (!things[place]->isWidgetType()) continue;
+    const auto* widget = static_cast<const QWidget*>(things[place]);
+    if (widget->isHidden() || !widget->geometry().intersects(near)) continue;
+    const auto* body = dynamic_cast<const CardBody*>(widget);
+    if (body == nullptr || !body->IsSolid()) continue;
     const QRect box = body->ShadowBox(body->geometry()).translated(-origin);
     if (!box.intersects(part) || AreAsOne(box, last)) continue;
     last = box;

@@ -25,8 +25,8 @@ class CardBody : public QWidget {
   [[nodiscard]] virtual bool IsSolid() const { return true; }
 
  private:
-  static void PaintShadows(QPainter& painter, const QObjectList& things, QPoint origin,
-                           const QRect& part);
+  static void PaintShadows(QPainter& painter, const QObjectList& things, qsizetype first,
+                           QPoint origin, const QRect& part);
   [[nodiscard]] QRect ShadowBox(const QRect& body) const;
   void RepaintGround(const QRect& body) const;
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -55,6 +56,7 @@ Integer SeatThatBids() {
   return last == Player ? NoSeat : last;
 }
 
+constexpr int SeatPointerSize = 10;
 constexpr QColor Light = Colours::LightYellow;
 
 QColor Faint(int alpha) {
@@ -81,13 +83,12 @@ void DrawRing(QPainter& painter, const QRectF& box, int thickness) {
   painter.drawRoundedRect(box, corner, corner);
 }
 
-// A triangle whose tip is there, and which lies behind it as seen in this direction.
-void DrawPointer(QPainter& painter, QPointF tip, QPointF direction, int size) {
-  const QPointF back = tip - direction * size;
-  const QPointF side = QPointF(-direction.y(), direction.x()) * size;
+void DrawPointer(QPainter& painter, const LightPointer& pointer, int size) {
+  const QPointF back = pointer.tip - pointer.direction * size;
+  const QPointF side = QPointF(-pointer.direction.y(), pointer.direction.x()) * size;
   painter.setPen(QPen(Colours::Navy, 1));
   painter.setBrush(Light);
-  painter.drawPolygon(QPolygonF{tip, back + side, back - side});
+  painter.drawPolygon(QPolygonF{pointer.tip, back + side, back - side});
 }
 
 }  // namespace
@@ -102,9 +103,10 @@ TurnLight::TurnLight(QWidget* table, const TableWidgets& widgets)
 void TurnLight::Follow() {
   Lit now = FindLight();
   if (now == lit_) return;
+  const QRegion before = Reach();
   lit_ = std::move(now);
   DimOthers();
-  update();
+  update(before + Reach());
 }
 
 Lit TurnLight::FindLight() const {
@@ -135,6 +137,7 @@ void TurnLight::LookAtTrick(Lit& lit) const {
   }
   for (int place = SeatsAtTable - 1; place >= 0; --place)
     if (const Integer seat = SeatAfter(Leader, place); played[seat] == nullptr) lit.seat = seat;
+  if (lit.seat == Player) lit.seat = NoSeat;
 }
 
 void TurnLight::DimOthers() const {
@@ -144,43 +147,60 @@ void TurnLight::DimOthers() const {
     widgets_.cards[card]->Dim(PlayerTurn != False && row.Has(card) && !playable.Has(card));
 }
 
-void TurnLight::DrawHandLight(QPainter& painter) const {
+// The mat on which the hand or the bidding panel lies.
+QRect TurnLight::Mat() const {
   constexpr int around = 7;
   constexpr int roomForPointers = 13;
-  constexpr int pointerSize = 6;
-  QRectF mat = QRectF(lit_.place).adjusted(-around, -around, around, around);
-  if (!lit_.cards.empty()) mat.setBottom(mat.bottom() - around + roomForPointers);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(Faint(70));
-  painter.drawRoundedRect(mat, around, around);
-  DrawRing(painter, mat, 2);
-  for (const QRect& card : lit_.cards)
-    DrawPointer(painter, {QRectF(card).center().x(), card.bottom() + 4.0}, {0, -1}, pointerSize);
+  if (lit_.place.isEmpty()) return {};
+  return lit_.place.adjusted(-around, -around, around,
+                             lit_.cards.empty() ? around : roomForPointers);
 }
 
-// On the green, beside the frame: the middle of the side that the seat sits at.
-void TurnLight::DrawSeatLight(QPainter& painter) const {
-  constexpr int size = 10;
+// On the green, beside the frame: the tip at the middle of the side that the seat sits at.
+LightPointer TurnLight::SeatPointer() const {
   constexpr int border = 5;
   const QRectF inner = QRectF(widgets_.top->geometry()).adjusted(border, border, -border, -border);
   const QPointF middle = inner.center();
   switch (lit_.seat) {
     case West:
-      return DrawPointer(painter, {inner.left(), middle.y()}, {-1, 0}, size);
+      return {{inner.left(), middle.y()}, {-1, 0}};
     case North:
-      return DrawPointer(painter, {middle.x(), inner.top()}, {0, -1}, size);
-    case East:
-      return DrawPointer(painter, {inner.right(), middle.y()}, {1, 0}, size);
+      return {{middle.x(), inner.top()}, {0, -1}};
     default:
-      return;
+      return {{inner.right(), middle.y()}, {1, 0}};
   }
 }
 
-void TurnLight::paintEvent(QPaintEvent*) {
+// Everything that is drawn on.
+QRegion TurnLight::Reach() const {
+  constexpr int glow = 12;
+  QRegion reach;
+  for (const QRect& box : {Mat(), lit_.winner})
+    if (!box.isEmpty()) reach += box.adjusted(-glow, -glow, glow, glow);
+  if (lit_.seat == NoSeat) return reach;
+  const int around = SeatPointerSize + 2;
+  const QPoint tip = SeatPointer().tip.toPoint();
+  return reach + QRect(tip, QSize(1, 1)).adjusted(-around, -around, around, around);
+}
+
+void TurnLight::DrawHandLight(QPainter& painter) const {
+  constexpr int corner = 7;
+  constexpr int pointerSize = 6;
+  const QRectF mat = Mat();
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(Faint(70));
+  painter.drawRoundedRect(mat, corner, corner);
+  DrawRing(painter, mat, 2);
+  for (const QRect& card : lit_.cards)
+    DrawPointer(painter, {{QRectF(card).center().x(), card.bottom() + 4.0}, {0, -1}}, pointerSize);
+}
+
+void TurnLight::paintEvent(QPaintEvent* event) {
+  if (!event->region().intersects(Reach())) return;
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   if (!lit_.place.isEmpty()) DrawHandLight(painter);
-  if (lit_.seat != NoSeat) DrawSeatLight(painter);
+  if (lit_.seat != NoSeat) DrawPointer(painter, SeatPointer(), SeatPointerSize);
   if (!lit_.winner.isEmpty()) DrawRing(painter, QRectF(lit_.winner).adjusted(-3, -3, 3, 3), 3);
 }
 

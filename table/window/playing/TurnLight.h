@@ -22,6 +22,12 @@ struct Lit {
   bool operator==(const Lit&) const = default;
 };
 
+// A triangle: its tip, and the direction in which it points.
+struct LightPointer {
+  QPointF tip;
+  QPointF direction;
+};
+
 // Lies on the table under the cards. It stands still and changes only when the turn does. Cards of
 // the hand that may not be played are dimmed while one is awaited.
 class TurnLight : public QWidget {
@@ -38,8 +44,10 @@ class TurnLight : public QWidget {
   [[nodiscard]] Lit FindLight() const;
   void LookAtTrick(Lit& lit) const;
   void DimOthers() const;
+  [[nodiscard]] QRect Mat() const;
+  [[nodiscard]] LightPointer SeatPointer() const;
+  [[nodiscard]] QRegion Reach() const;
   void DrawHandLight(QPainter& painter) const;
-  void DrawSeatLight(QPainter& painter) const;
 
   const TableWidgets& widgets_;
   Lit lit_;
