@@ -110,39 +110,48 @@ bool CardBody::event(QEvent* event) {
   return QWidget::event(event);
 }
 
-void CardBody::PaintShadowsOnTable(QPainter& painter, const QWidget& table, const QRect& part) {
-  PaintShadows(painter, table.children(), 0, {}, part);
+void CardBody::PaintShadowsOnTable(QPainter& painter, const QWidget& table, const QRegion& parts) {
+  for (const QRect& part : parts) PaintShadows(painter, table.children(), 0, {}, part);
 }
 
 // The children of the table are in their order from the back to the front.
-void CardBody::PaintShadowsOn(QPainter& painter, const QWidget& ground, const QRect& part) {
+void CardBody::PaintShadowsOn(QPainter& painter, const QWidget& ground, const QRegion& parts) {
   const QObjectList& things = ground.parentWidget()->children();
-  PaintShadows(painter, things, things.indexOf(&ground) + 1, ground.pos(), part);
+  const qsizetype first = things.indexOf(&ground) + 1;
+  for (const QRect& part : parts) PaintShadows(painter, things, first, ground.pos(), part);
 }
 
-// Each of many cards asks for all that lie above it, so what is far away is left out first.
+// Each of many cards asks for all that lie above it. What is far away is left out first; then what
+// the body itself or another one hides. Within a single rectangle Qt copies pixels; elsewhere it
+// goes from line to line, with threads to help it that cost more than they bring.
 void CardBody::PaintShadows(QPainter& painter, const QObjectList& things, qsizetype first,
                             QPoint origin, const QRect& part) {
-  constexpr int furthest = 15;
+  constexpr int furthest = 15, corner = 6;
   const QRect near = part.translated(origin).adjusted(-furthest, -furthest, furthest, furthest);
+  QRegion seen = part;
   QRect last;
-  for (qsizetype place = first; place < things.size(); ++place) {
+  for (qsizetype place = first; place < things.size() && !seen.isEmpty(); ++place) {
     if (!things[place]->isWidgetType()) continue;
     const auto* widget = static_cast<const QWidget*>(things[place]);
     if (widget->isHidden() || !widget->geometry().intersects(near)) continue;
     const auto* body = dynamic_cast<const CardBody*>(widget);
     if (body == nullptr || !body->IsSolid()) continue;
-    const QRect box = body->ShadowBox(body->geometry()).translated(-origin);
-    if (!box.intersects(part) || AreAsOne(box, last)) continue;
+    const QRect lying = body->geometry().translated(-origin);
+    const QRect box = body->ShadowBox(lying);
+    if (AreAsOne(box, last)) continue;
     last = box;
-    painter.drawPixmap(box.topLeft(),
-                       ShadowPicture(body->size(), body->isLifted_, body->devicePixelRatioF()));
+    seen -= lying.adjusted(corner, corner, -corner, -corner);
+    for (const QRect& spot : seen.intersected(box)) {
+      painter.setClipRect(spot);
+      painter.drawPixmap(box.topLeft(),
+                         ShadowPicture(body->size(), body->isLifted_, body->devicePixelRatioF()));
+    }
   }
 }
 
 void TableGround::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
-  CardBody::PaintShadowsOnTable(painter, *this, event->rect());
+  CardBody::PaintShadowsOnTable(painter, *this, event->region());
 }
 
 }  // namespace Parlino

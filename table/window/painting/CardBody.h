@@ -12,11 +12,12 @@ class CardBody : public QWidget {
   // A card under way is a little higher above the table than one that lies there.
   void Lift(bool isLifted);
 
-  // Paint the shadows that fall on `part` of the table, and on `part` of a widget of the table: of
-  // the bodies above it. It is the ground that paints them, so a shadow falls on the next card as
-  // well as on the table, and the body keeps the place and size of the card.
-  static void PaintShadowsOnTable(QPainter& painter, const QWidget& table, const QRect& part);
-  static void PaintShadowsOn(QPainter& painter, const QWidget& ground, const QRect& part);
+  // Paint the shadows that fall on parts of the table, and on parts of a widget of the table: of
+  // the bodies above it. Nothing else can be painted outside the last part afterwards. It is the
+  // ground that paints them, so a shadow falls on the next card as well as on the table, and the
+  // body keeps the place and size of the card.
+  static void PaintShadowsOnTable(QPainter& painter, const QWidget& table, const QRegion& parts);
+  static void PaintShadowsOn(QPainter& painter, const QWidget& ground, const QRegion& parts);
 
  protected:
   bool event(QEvent* event) override;

@@ -53,6 +53,7 @@ inline constexpr QColor Black(0, 0, 0);
 inline constexpr QColor LightGreen(192, 255, 192);
 inline constexpr QColor Grey(192, 192, 192);
 inline constexpr QColor Gold(255, 200, 40);  // what the keys have reached
+inline constexpr QColor PaleSlate(128, 136, 184);
 inline constexpr QColor Paper(255, 253, 246);
 inline constexpr QColor Ink(32, 28, 24);
 inline constexpr QColor EdgeLight(240, 240, 240);

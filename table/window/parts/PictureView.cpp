@@ -59,7 +59,7 @@ void PictureView::paintEvent(QPaintEvent* event) {
   const qreal ratio = devicePixelRatioF();
   painter.drawPixmap(0, 0,
                      isDimmed_ ? DimmedPicture(picture_, ratio) : CardPicture(picture_, ratio));
-  PaintShadowsOn(painter, *this, event->rect());
+  PaintShadowsOn(painter, *this, event->region());
 }
 
 void PictureView::mousePressEvent(QMouseEvent* event) {
@@ -82,7 +82,7 @@ TrickBack::TrickBack(QWidget* parent) : CardBody(parent) {}
 void TrickBack::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   painter.drawPixmap(2, 2, SmallBack(devicePixelRatioF()));
-  PaintShadowsOn(painter, *this, event->rect());
+  PaintShadowsOn(painter, *this, event->region());
 }
 
 }  // namespace Parlino

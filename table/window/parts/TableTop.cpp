@@ -37,7 +37,7 @@ void TableTop::paintEvent(QPaintEvent* event) {
   DrawEdges(painter, cloth.adjusted(-1, -1, 1, 1), shaded, lit);
   painter.fillRect(cloth, Colours::Green);
   PaintShadowOfFrame(painter, cloth);
-  CardBody::PaintShadowsOn(painter, *this, event->rect());
+  CardBody::PaintShadowsOn(painter, *this, event->region());
 }
 
 }  // namespace Parlino
