@@ -137,7 +137,7 @@ void TurnLight::LookAtTrick(Lit& lit) const {
   }
   for (int place = SeatsAtTable - 1; place >= 0; --place)
     if (const Integer seat = SeatAfter(Leader, place); played[seat] == nullptr) lit.seat = seat;
-  if (lit.seat == Player) lit.seat = NoSeat;
+  if (lit.seat == Player || HandOf(lit.seat).IsEmpty()) lit.seat = NoSeat;
 }
 
 void TurnLight::DimOthers() const {
