@@ -126,6 +126,10 @@ CardSet PlayersRow() {
       [top](int card) { return Pack[card].Owner == Player && Table.Cds[card].Place.Top == top; });
 }
 
+TablePoint PlaceInMiddle(Integer seat) {
+  return MiddlePlaces[seat];
+}
+
 Integer SeatBehindCard(Integer card) {
   for (Integer seat = Player; seat <= East; ++seat)
     if (Table.Cds[card].Place == MiddlePlaces[seat]) return seat;

@@ -28,6 +28,9 @@ void ShowEastHand();
 // The cards that lie face up in the Player's row: once a hand is dealt, those still to be played.
 CardSet PlayersRow();
 
+// Where the card that the seat has played lies, in the middle of the table.
+TablePoint PlaceInMiddle(Integer seat);
+
 // The seat in front of which the card lies in the middle of the table, or NoSeat.
 Integer SeatBehindCard(Integer card);
 

@@ -13,6 +13,7 @@
 #include "table/window/ScrolledTable.h"
 #include "table/window/desktop/WindowPlace.h"
 #include "table/window/input/PendingEvents.h"
+#include "table/window/painting/CardBody.h"
 #include "table/window/painting/Design.h"
 #include "table/window/painting/Pictures.h"
 #include "table/window/parts/Builders.h"
@@ -22,7 +23,7 @@ namespace Parlino {
 
 TableWindow::TableWindow(KeyUse& keyUse, PendingEvents& pending)
     : pending_(pending),
-      table_(new QWidget),
+      table_(new TableGround),
       room_(new ScrolledTable(table_, this)),
       spoken_(*table_) {
   IntroduceSpeakers();
@@ -53,6 +54,7 @@ void TableWindow::BuildTable(KeyUse& keyUse) {
   table_->setFocus();
   const BuildSite site{*table_, mirror_, pending_, widgets_};
   BuildTableTop(site);
+  light_ = new TurnLight(table_, widgets_);
   BuildTrickPiles(site);
   BuildTrumps(site);
   BuildCards(site);
@@ -74,6 +76,7 @@ void TableWindow::ShowModel(std::uint32_t now, std::uint32_t pauseMs) {
   hints_.Follow();
   spoken_.Tell();
   glides_.DrawFrame(now);
+  light_->Follow();
   if (Table.FrmMain.Visible && !isVisible()) {
     FitToScreen();
     show();

@@ -14,6 +14,7 @@
 #include "table/window/parts/TableWidgets.h"
 #include "table/window/playing/RestingPointer.h"
 #include "table/window/playing/TableKeys.h"
+#include "table/window/playing/TurnLight.h"
 #include "table/window/speaking/AssistiveTools.h"
 #include "table/window/speaking/Speaker.h"
 
@@ -50,6 +51,7 @@ class TableWindow : public QWidget, public Speaker {
   TableWidgets widgets_;
   CardHints hints_{widgets_};
   QWidget* table_;
+  TurnLight* light_ = nullptr;
   ScrolledTable* room_;
   SpokenChanges spoken_;
   std::optional<TableFocus> focus_;

@@ -78,13 +78,13 @@ class HeadlessChaos : public Chaos, public HeadlessInFolder {
       last_ = person.OneByWeight(Deeds);
       number_ = last_.first + person.Below(last_.last - last_.first + 1);
     }
-    Chaos::Note(JoinText({last_.control, " ", number_}));
+    Note(JoinText({last_.control, " ", number_}));
     return last_.door(number_);
   }
 
  private:
   [[noreturn]] void EndSession() {
-    Chaos::Note("the session ends");
+    Note("the session ends");
     UnloadAllForms();
   }
 

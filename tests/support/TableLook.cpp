@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "engine/state/GameState.h"
+#include "headless/CardText.h"
 
 namespace Parlino {
 namespace {
@@ -65,7 +66,7 @@ void LookAtLabels(Looker& looker) {
 
 void LookAtCards(Looker& looker) {
   for (int card = 1; card <= CardsInPack; ++card) {
-    looker.Add(CardName(card), Table.Cds[card]);
+    looker.Add(CardText(card), Table.Cds[card]);
     looker.look.controls.back().card = card;
   }
 }
@@ -220,13 +221,6 @@ std::vector<std::string> DescribeChanges(TableLook before, const TableLook& afte
     DescribeCards(before, after, seat, SeatWords[seat], text);
   DescribeCards(before, after, NoSeat, "", text);
   return text;
-}
-
-std::string CardName(int card) {
-  constexpr const char* values[] = {"2", "3",  "4", "5", "6", "7", "8",
-                                    "9", "10", "J", "Q", "K", "A"};
-  const int place = card - 1;
-  return std::string(1, "DCHS"[place / CardsInSuit]) + "-" + values[place % CardsInSuit];
 }
 
 std::string ShowLineEnds(std::string_view text) {

@@ -36,9 +36,6 @@ TableLook LookAtNothing();
 std::vector<std::string> DescribeChanges(TableLook before, const TableLook& after,
                                          bool isHiddenTold);
 
-// A card as the transcripts name it: "S-A", "H-10".
-std::string CardName(int card);
-
 // The text with line ends that can be seen; and in quotes.
 std::string ShowLineEnds(std::string_view text);
 std::string Quote(std::string_view text);

@@ -70,6 +70,11 @@ void SetLeader(Words& words) {
   if (!words.IsEmpty()) LedSuit = SuitOf(words.Rest()[0]);
 }
 
+void StartTrick(Words& words) {
+  HandInProgress = true;
+  TrickNumber = ToInteger(words.Number());
+}
+
 void MakeTrumps(Words& words) {
   constexpr Integer pictures[] = {PictureDiamonds, PictureClubs, PictureHearts, PictureSpades};
   TrumpSuit = SuitOf(words.Rest()[0]);
@@ -148,6 +153,7 @@ const Steps StepsOfGame = {
     {"pack", BringPack},
     {"turn", [](Words& words) { PlayerTurn = words.Next() == "on" ? True : False; }},
     {"lead", SetLeader},
+    {"trick", StartTrick},
     {"trumps", MakeTrumps},
     {"middle", PutInMiddle},
     {"face", TurnOver},

@@ -125,11 +125,6 @@ void Darken(Words&) {
   QApplication::setFont(QFont("DejaVu Sans", 24));
 }
 
-void EndSession(Words&) {
-  QEvent quit(QEvent::Quit);
-  QApplication::sendEvent(qApp, &quit);
-}
-
 void UseTool(Words& words, const QString& action) {
   VoiceOf(words.Part().objectName())->actionInterface()->doAction(action);
 }
@@ -167,7 +162,7 @@ const Steps StepsOfPerson = {
     {"deactivate", Deactivate},
     {"dark", Darken},
     {"odd", [](Words&) { QApplication::setStyle(new OddStyle); }},
-    {"quit", EndSession},
+    {"quit", [](Words&) { WindowGame::EndSession(); }},
 };
 
 }  // namespace Parlino

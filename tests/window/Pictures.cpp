@@ -142,11 +142,6 @@ std::string Differences(const QImage& actual, QImage expected, const std::vector
   return text;
 }
 
-// With what the window has painted below it.
-QImage PictureOf(QWidget& widget) {
-  return ShotOf(widget);
-}
-
 QString PathOf(const QString& name) {
   return QString(PARLINO_PICTURE_FOLDER "/%1.png").arg(name);
 }
@@ -154,11 +149,11 @@ QString PathOf(const QString& name) {
 }  // namespace
 
 void ExpectAsKept(QWidget& widget, const QString& name) {
-  if (picturesAreAccepted) PictureOf(widget).save(PathOf(name));
+  if (picturesAreAccepted) ShotOf(widget).save(PathOf(name));
   const QImage expected = QImage(PathOf(name)).convertToFormat(QImage::Format_RGB32);
-  const std::string differences = Differences(PictureOf(widget), expected, PlacesOfLetters(widget));
+  const std::string differences = Differences(ShotOf(widget), expected, PlacesOfLetters(widget));
   if (differences.empty()) return;
-  PictureOf(widget).save(name + ".actual.png");
+  ShotOf(widget).save(name + ".actual.png");
   ADD_FAILURE() << "Not as in " << PathOf(name).toStdString() << ":\n"
                 << differences << "What is drawn now is in " << name.toStdString()
                 << ".actual.png.";

@@ -60,6 +60,11 @@ QWidget& WindowGame::Find(const QString& name) {
   throw std::out_of_range("no widget is called " + name.toStdString());
 }
 
+void WindowGame::EndSession() {
+  QEvent quit(QEvent::Quit);
+  QApplication::sendEvent(qApp, &quit);
+}
+
 QWidget& WindowGame::FindMember(const char* array, int index) {
   return Find(QString("%1(%2)").arg(array).arg(index));
 }

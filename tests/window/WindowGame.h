@@ -59,6 +59,9 @@ class WindowGame {
   static QWidget& Find(const QString& name);
   static QWidget& FindMember(const char* array, int index);
 
+  // The desktop closes the session, or asks the program to end.
+  static void EndSession();
+
   QTemporaryDir folder;
   QuickPlatform platform;
 };

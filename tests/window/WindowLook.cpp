@@ -71,6 +71,8 @@ QString TellDrawing(const QWidget& widget) {
     const bool isSeen = widget.visibleRegion().contains(QPoint(x, y));
     return isSeen ? shot.pixelColor(widget.mapTo(widget.window(), QPoint(x, y))) : QColor();
   };
+  if (widget.objectName() == "FocusMark" && at(8, widget.height() / 2) != Colours::Gold)
+    return "at rest";
   if (widget.objectName() == "FocusMark")
     return at(widget.width() / 2, 3) == Colours::Gold ? "pointing" : "plain";
   if (dynamic_cast<const BidFace*>(&widget) == nullptr || !at(5, 5).isValid()) return {};

@@ -17,11 +17,12 @@ std::string RankName(int value) {
   return RankNames.at(static_cast<std::size_t>(value - 2));
 }
 
-std::string MoveTo(Spot spot, double scale, bool turned = false) {
+// A symbol is drawn 13 units wide and 14 high.
+std::string PutSymbol(Spot spot, Size size, bool turned = false) {
   std::ostringstream text;
   text << "translate(" << spot.x << ' ' << spot.y << ')';
   if (turned) text << " rotate(180)";
-  if (scale != 1) text << " scale(" << scale << ')';
+  if (size.width != 13) text << " scale(" << size.width / 13 << ' ' << size.height / 14 << ')';
   return text.str();
 }
 
@@ -35,44 +36,57 @@ Drawing Colour(const Suit& suit, const Drawing& drawing) {
 
 // The whole upper half is drawn once and shown again upside down.
 Drawing TwoHeaded(const Drawing& half, const std::string& name) {
-  return "<g id=\"" + name + "\">\n" + half + "</g>\n" + Use(name, "rotate(180 35.5 48)");
+  return "<g id=\"" + name + "\">\n" + half + "</g>\n" + Use(name, "rotate(180 47.5 48)");
 }
 
+// Paper upon edge: with a fill and its outline over the same pixels, light would shine through at
+// the corners.
 Drawing ComposeCard() {
-  return "<rect x=\".5\" y=\".5\" width=\"70\" height=\"95\" rx=\"5\""
-         " fill=\"#fffdf6\" stroke=\"#4a4a50\"/>\n";
+  return "<rect width=\"71\" height=\"96\" rx=\"5.5\" fill=\"#8f897f\"/>\n"
+         "<rect x=\"1\" y=\"1\" width=\"69\" height=\"94\" rx=\"4.5\" fill=\"#fffdf6\"/>\n";
 }
 
-// Everything that identifies the card must lie within the 22 pixels that stay visible when the next
-// card of a hand covers the rest.
+// Everything that identifies the card must lie within the 26 pixels that stay visible when the next
+// card of a hand covers the rest. Cards are never turned, so one index is enough.
 Drawing ComposeIndex(const std::filesystem::path& sources, const Suit& suit, int value) {
   const Drawing rank = ReadDrawing(sources / "ranks" / (RankName(value) + ".svg"));
-  return "<g transform=\"translate(9.5 5)\" stroke=\"" + std::string(suit.colour) +
-         "\" stroke-width=\"2.7\">\n" + rank + "</g>\n" + Use("suit", MoveTo({9.5, 29}, 1.15));
+  return "<g transform=\"translate(12.5 6)\" stroke=\"" + std::string(suit.colour) +
+         "\" stroke-width=\"3\">\n" + rank + "</g>\n" +
+         Use("suit", PutSymbol({12.5, 35}, {11, 12}));
 }
 
-// Nine or ten pips stand closer together, so they are a little smaller.
 Drawing ComposePips(int value) {
-  const double scale = value < 9 ? 1.4 : 1.16;
+  const Size size = PipSize(value);
   Drawing pips;
-  for (const Spot spot : PlacePips(value)) pips += Use("suit", MoveTo(spot, scale, IsTurned(spot)));
+  for (const Spot spot : PlacePips(value))
+    pips += Use("suit", PutSymbol(spot, size, IsTurned(spot)));
   return pips;
 }
 
+// As large as what a covered card shows allows.
 Drawing ComposeAce(const std::filesystem::path& sources, const Suit& suit) {
-  return ReadDrawing(sources / "aces" / (std::string(suit.name) + ".svg"));
+  return Place(ReadDrawing(sources / "aces" / (std::string(suit.name) + ".svg")),
+               "translate(47 48) scale(1.1) translate(-47.5 -48)");
 }
 
-// The frame has two steps that make room for the indices, so a figure may be as wide as the card
-// allows.
+// The seam of the two figures falls for a jack, rises for a queen and is level for a king.
+std::string SlopeOfSeam(int value) {
+  constexpr std::array slopes{"20.2", "-20.2", "0"};
+  return slopes.at(static_cast<std::size_t>(value - Jack));
+}
+
+// The figure stands right of what a covered card shows; there an emblem below the index tells the
+// court card from the others.
 Drawing ComposeCourt(const std::filesystem::path& sources, const Suit& suit, int value) {
-  const std::string outline = "<path d=\"M22.5 4.5H66.5V59.5H48.5V91.5H4.5V36.5H22.5Z\" ";
-  const auto courts = sources / "courts";
-  const std::string figure = RankName(value) + "-of-" + suit.name + ".svg";
+  const std::string outline = "<rect x=\"28.5\" y=\"4.5\" width=\"38\" height=\"87\" ";
+  const std::string name = RankName(value) + "-of-" + suit.name + ".svg";
+  const Drawing figure = ReadDrawing(sources / "courts" / name);
+  const Drawing sash = ReadDrawing(sources / "sashes" / name);
   return outline + "fill=\"" + suit.tint + "\"/>\n" +
-         TwoHeaded(ReadDrawing(courts / figure), "figure") +
-         ReadDrawing(courts / ("sash-of-" + std::string(suit.name) + ".svg")) + outline +
-         "fill=\"none\" stroke=\"" + suit.colour + "\" stroke-width=\"1\"/>\n";
+         TwoHeaded(Place(figure, "translate(3.5 0)"), "figure") +
+         Place(sash, "translate(47.5 48) skewY(" + SlopeOfSeam(value) + ")") + outline +
+         "fill=\"none\" stroke=\"" + suit.colour + "\" stroke-width=\"1\"/>\n" +
+         Place(ReadDrawing(sources / "emblems" / name), "translate(12.5 46)");
 }
 
 }  // namespace
@@ -85,7 +99,7 @@ Drawing ComposeFace(const std::filesystem::path& sources, int card) {
 
   return "<defs>\n<g id=\"suit\">\n" + symbol + "</g>\n</defs>\n" + ComposeCard() +
          (isCourt ? ComposeCourt(sources, suit, value) : Drawing()) +
-         Colour(suit, TwoHeaded(ComposeIndex(sources, suit, value), "index") + ComposePips(value) +
+         Colour(suit, ComposeIndex(sources, suit, value) + ComposePips(value) +
                           (value == Ace ? ComposeAce(sources, suit) : Drawing()));
 }
 

@@ -31,7 +31,8 @@ Drawing MakeRed(Drawing back) {
     const char *blue, *red;
   };
   for (const Twin& twin :
-       {Twin{"#1d3f94", "#9c1328"}, Twin{"#dfe8ff", "#ffe6e0"}, Twin{"#6f8fd8", "#d8737c"}})
+       {Twin{"#1d3f94", "#9c1328"}, Twin{"#16306f", "#740c1c"}, Twin{"#4668bd", "#b8404e"},
+        Twin{"#8fa9e6", "#eb9a9c"}, Twin{"#dfe8ff", "#ffe6e0"}})
     back = Repaint(std::move(back), twin.blue, twin.red);
   return back;
 }
@@ -65,7 +66,7 @@ void MakeTrumpTiles(const fs::path& sources, const fs::path& output) {
     const std::string colour = SuitNamed(name).colour;
     WritePicture(NumberedFile(output, number++), 48, 48,
                  ReadDrawing(sources / "tile.svg") + "<g fill=\"" + colour + "\">\n" +
-                     Place(symbol, "translate(24 24) scale(3.3)") + "</g>\n");
+                     Place(symbol, "translate(24 24) scale(2.3)") + "</g>\n");
   }
 }
 

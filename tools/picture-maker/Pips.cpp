@@ -3,25 +3,28 @@
 namespace Parlino {
 namespace {
 
-constexpr double MiddleX = 35.5, MiddleY = 48;
+constexpr double FieldX = 46.5, MiddleY = 48, ToTheSide = 13;
+constexpr int LastLargeValue = 3;
 
-// On a nine and a ten the columns stand further apart, to make room for the pips in the middle.
-double ToTheSide(int value) {
-  return value < 9 ? 10 : 11;
+// The few large pips stand between the middle of the card and that of the field: the card would
+// lean to one side otherwise.
+double PlaceMiddleColumn(int value) {
+  constexpr double balancedX = 38.5;
+  return value <= LastLargeValue ? balancedX : FieldX;
 }
 
 std::vector<double> PlaceSideRows(int value) {
   switch (value) {
     case 4:
     case 5:
-      return {14, 82};
+      return {12, 84};
     case 6:
     case 7:
     case 8:
-      return {14, 48, 82};
+      return {12, 48, 84};
     case 9:
     case 10:
-      return {14, 36.6, 59.4, 82};
+      return {12, 36, 60, 84};
     default:
       return {};
   }
@@ -30,18 +33,18 @@ std::vector<double> PlaceSideRows(int value) {
 std::vector<double> PlaceMiddleRows(int value) {
   switch (value) {
     case 2:
-      return {14, 82};
+      return {16, 80};
     case 3:
-      return {14, 48, 82};
+      return {16, 48, 80};
     case 5:
     case 9:
       return {48};
     case 7:
-      return {31};
+      return {30};
     case 8:
-      return {31, 65};
+      return {30, 66};
     case 10:
-      return {25.3, 70.7};
+      return {24, 72};
     default:
       return {};
   }
@@ -52,11 +55,15 @@ std::vector<double> PlaceMiddleRows(int value) {
 std::vector<Spot> PlacePips(int value) {
   std::vector<Spot> spots;
   for (const double y : PlaceSideRows(value)) {
-    spots.push_back({MiddleX - ToTheSide(value), y});
-    spots.push_back({MiddleX + ToTheSide(value), y});
+    spots.push_back({FieldX - ToTheSide, y});
+    spots.push_back({FieldX + ToTheSide, y});
   }
-  for (const double y : PlaceMiddleRows(value)) spots.push_back({MiddleX, y});
+  for (const double y : PlaceMiddleRows(value)) spots.push_back({PlaceMiddleColumn(value), y});
   return spots;
+}
+
+Size PipSize(int value) {
+  return value <= LastLargeValue ? Size{17, 18} : Size{13, 14};
 }
 
 bool IsTurned(Spot spot) {

@@ -10,9 +10,9 @@ namespace {
 // The two reds and the two blacks also differ a little in hue: one red leans towards orange and one
 // black towards green, so the suit can be told at a glance.
 constexpr std::array Suits{
-    Suit{"diamonds", "#df340a", "#fff3d2"},
+    Suit{"diamonds", "#ce3200", "#fff3d2"},
     Suit{"clubs", "#0b5a34", "#e6f3dc"},
-    Suit{"hearts", "#c20a2c", "#ffe6e4"},
+    Suit{"hearts", "#b00032", "#ffe6e4"},
     Suit{"spades", "#0b0b18", "#e2e8f8"},
 };
 

@@ -10,6 +10,7 @@
 #include "table/window/input/PendingEvents.h"
 #include "table/window/painting/Design.h"
 #include "table/window/painting/Edges.h"
+#include "table/window/painting/FlatButton.h"
 #include "table/window/painting/FrameBox.h"
 #include "table/window/painting/Named.h"
 #include "table/window/painting/Pictures.h"
@@ -81,7 +82,7 @@ void AddEtchedLine(QWidget* parent) {
 
 QPushButton* AddButton(const char* name, const char* caption, const QRect& place, QWidget* parent) {
   constexpr double points = 9;
-  auto* button = Named(new QPushButton(caption, parent), name);
+  auto* button = Named(new FlatButton(caption, parent), name);
   button->setGeometry(place);
   button->setFont(TimesBold(points, Slope::Italic));
   button->setPalette(LightColours(Colours::Grey, Colours::LightGreen));

@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include <QScreen>
 #include <QWidget>
 
 #include "platform/Platform.h"
+#include "table/window/painting/CardBody.h"
 
 namespace Parlino {
 namespace {
@@ -22,6 +24,17 @@ double EaseOut(double progress) {
   return 1 - rest * rest;
 }
 
+// How much of a pause a finished trick rests, so that its winner can be seen.
+constexpr double RestOfPause = 0.45;
+
+void Lift(QWidget* widget, bool isLifted) {
+  if (auto* body = dynamic_cast<CardBody*>(widget)) body->Lift(isLifted);
+}
+
+void Leave(std::function<void()>& onLeaving) {
+  if (const auto leave = std::exchange(onLeaving, nullptr)) leave();
+}
+
 }  // namespace
 
 double MsBetweenFrames(const QScreen& screen) {
@@ -35,8 +48,7 @@ double MsBetweenFrames(const QScreen& screen) {
 void Glides::Allow(bool allowed) {
   areAllowed_ = allowed;
   if (allowed) return;
-  for (const Glide& glide : glides_) glide.widget->move(glide.goal);
-  glides_.clear();
+  while (!glides_.empty()) Cut(glides_.back().widget);
 }
 
 void Glides::Begin(QWidget* widget, QPoint goal, std::uint32_t now, std::uint32_t pauseMs) {
@@ -46,7 +58,19 @@ void Glides::Begin(QWidget* widget, QPoint goal, std::uint32_t now, std::uint32_
       pauseMs == Forever ? GlideMsBeforeTurn : std::min<double>(pauseMs, LongestGlideMs);
   // Half a frame less than there is room for: so the last frame comes before the pause ends.
   const double lengthMs = std::max(1.0, roomMs - frameMs_ / 2);
-  glides_.push_back({widget, widget->pos(), goal, now, lengthMs});
+  glides_.push_back({widget, widget->pos(), goal, now, 0, lengthMs, {}, {}});
+  // A card that only closes a gap in its hand stays down.
+  constexpr int shortWay = 40;
+  Lift(widget, (goal - widget->pos()).manhattanLength() > shortWay);
+}
+
+void Glides::BeginAfterRest(QWidget* widget, QPoint goal, std::uint32_t now, std::uint32_t pauseMs,
+                            std::function<void()> onLeaving, std::function<void()> onArrival) {
+  const double restMs = RestOfPause * pauseMs;
+  if (glides_.empty()) BeginCounting(*widget, now);
+  const double lengthMs = std::max(1.0, pauseMs - restMs - frameMs_ / 2);
+  glides_.push_back({widget, widget->pos(), goal, now, restMs, lengthMs, std::move(onLeaving),
+                     std::move(onArrival)});
 }
 
 void Glides::BeginCounting(const QWidget& widget, std::uint32_t now) {
@@ -58,24 +82,37 @@ void Glides::BeginCounting(const QWidget& widget, std::uint32_t now) {
 void Glides::Cut(const QWidget* widget) {
   const auto place = std::ranges::find(glides_, widget, &Glide::widget);
   if (place == glides_.end()) return;
-  place->widget->move(place->goal);
+  Glide glide = std::move(*place);
   glides_.erase(place);
+  Arrive(glide);
 }
 
 void Glides::DrawFrame(std::uint32_t now) {
   if (glides_.empty() || MsToNextFrame(now) > 0) return;
   const int frame = static_cast<int>((now - firstFrame_) / frameMs_);
   nextFrame_ = std::max(frame, nextFrame_) + 1;
-  std::erase_if(glides_, [&](const Glide& glide) { return !Advance(glide, now); });
+  std::erase_if(glides_, [&](Glide& glide) { return !Advance(glide, now); });
+}
+
+void Glides::Arrive(Glide& glide) {
+  Leave(glide.onLeaving);
+  Lift(glide.widget, false);
+  glide.widget->move(glide.goal);
+  if (glide.onArrival) glide.onArrival();
 }
 
 // What is drawn now is seen until the next frame; it is right in the middle of that time. False
 // when the widget has arrived.
-bool Glides::Advance(const Glide& glide, std::uint32_t now) const {
-  const double progress = (now - glide.begun + frameMs_ / 2) / glide.lengthMs;
+bool Glides::Advance(Glide& glide, std::uint32_t now) const {
+  const double progress = (now - glide.begun + frameMs_ / 2 - glide.restMs) / glide.lengthMs;
+  if (progress <= 0) return true;
   if (progress >= 1) {
-    glide.widget->move(glide.goal);
+    Arrive(glide);
     return false;
+  }
+  if (glide.onLeaving) {
+    Leave(glide.onLeaving);
+    Lift(glide.widget, true);
   }
   glide.widget->move(glide.from + (glide.goal - glide.from) * EaseOut(progress));
   return true;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 #include <QPoint>
@@ -24,6 +25,12 @@ class Glides {
   // The widget leaves for `goal` and is there before `pauseMs` milliseconds have passed.
   void Begin(QWidget* widget, QPoint goal, std::uint32_t now, std::uint32_t pauseMs);
 
+  // The same for a card of a finished trick: it rests for a moment before it leaves, so that the
+  // trick can be seen. `onLeaving` is called then and `onArrival` at the end, both once.
+  void BeginAfterRest(QWidget* widget, QPoint goal, std::uint32_t now, std::uint32_t pauseMs,
+                      std::function<void()> onLeaving, std::function<void()> onArrival);
+  [[nodiscard]] bool AreAllowed() const { return areAllowed_; }
+
   // Ends the widget's glide where it was going; without one nothing happens.
   void Cut(const QWidget* widget);
 
@@ -39,11 +46,15 @@ class Glides {
     QPoint from;
     QPoint goal;
     std::uint32_t begun;
+    double restMs;
     double lengthMs;
+    std::function<void()> onLeaving;
+    std::function<void()> onArrival;
   };
 
+  static void Arrive(Glide& glide);
   void BeginCounting(const QWidget& widget, std::uint32_t now);
-  [[nodiscard]] bool Advance(const Glide& glide, std::uint32_t now) const;
+  [[nodiscard]] bool Advance(Glide& glide, std::uint32_t now) const;
 
   std::vector<Glide> glides_;
   bool areAllowed_ = true;

@@ -1,6 +1,7 @@
 #include "table/window/mirror/TableMirror.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QWidget>
 
@@ -15,13 +16,47 @@ void TableMirror::Link(const Control& control, QWidget* widget, std::function<vo
 }
 
 void TableMirror::ShowChanges(std::uint32_t now, std::uint32_t pauseMs) {
+  const std::vector<Tie*> gathered = FindGathered();
   for (Tie& tie : ties_)
-    if (HasChanged(tie)) ShowControl(tie, {now, pauseMs});
+    if (HasChanged(tie) && !std::ranges::count(gathered, &tie)) ShowControl(tie, {now, pauseMs});
   moveFocus_();
-  for (const Tie& tie : ties_)
-    if (HasChanged(tie) && !tie.control->Visible) tie.widget->hide();
+  for (Tie& tie : ties_)
+    if (HasChanged(tie) && !tie.control->Visible && !std::ranges::count(gathered, &tie))
+      tie.widget->hide();
+  ShowGathered(gathered, {now, pauseMs});
   BringChangedToFront();
   shown_ = Table.Changes;
+}
+
+// When a trick is gathered, the model moves its four cards and hides three of them at once. Drawn,
+// they go together to where the fourth goes. The fourth is the last of the result.
+std::vector<TableMirror::Tie*> TableMirror::FindGathered() {
+  constexpr std::size_t cardsThatGo = 3;
+  if (!glides_.AreAllowed() || !shown_) return {};
+  std::vector<Tie*> gathered;
+  Tie* last = nullptr;
+  for (Tie& tie : ties_) {
+    if (tie.placing != Placing::Glides || !HasChanged(tie) || tie.widget->isHidden() ||
+        ToPixels(tie.control->Place) == tie.widget->pos())
+      continue;
+    if (!tie.control->Visible)
+      gathered.push_back(&tie);
+    else if (std::exchange(last, &tie) != nullptr)
+      return {};
+  }
+  if (gathered.size() != cardsThatGo || last == nullptr) return {};
+  gathered.push_back(last);
+  return gathered;
+}
+
+void TableMirror::ShowGathered(const std::vector<Tie*>& gathered, const Pause& pause) {
+  if (gathered.empty()) return;
+  const QPoint goal = ToPixels(gathered.back()->control->Place);
+  for (const Tie* tie : gathered) {
+    glides_.Cut(tie->widget);
+    glides_.BeginAfterRest(tie->widget, goal, pause.begins, pause.lengthMs, tie->show,
+                           [tie] { tie->widget->setVisible(tie->control->Visible); });
+  }
 }
 
 void TableMirror::ShowControl(Tie& tie, const Pause& pause) {

@@ -57,6 +57,8 @@ class TableMirror {
   [[nodiscard]] bool HasChanged(const Tie& tie) const {
     return !shown_ || tie.control->Changed > *shown_;
   }
+  [[nodiscard]] std::vector<Tie*> FindGathered();
+  void ShowGathered(const std::vector<Tie*>& gathered, const Pause& pause);
   void ShowControl(Tie& tie, const Pause& pause);
   void ShowPlace(const Tie& tie, const Pause& pause);
   void BringChangedToFront();

@@ -37,6 +37,7 @@ QString PlainToolTip(const QString& text);
 
 namespace Colours {
 inline constexpr QColor Navy(0, 0, 64);
+inline constexpr QColor Slate(64, 64, 128);
 inline constexpr QColor LightYellow(255, 255, 192);
 inline constexpr QColor Yellow(255, 255, 0);
 inline constexpr QColor Green(0, 128, 0);
@@ -52,6 +53,7 @@ inline constexpr QColor Black(0, 0, 0);
 inline constexpr QColor LightGreen(192, 255, 192);
 inline constexpr QColor Grey(192, 192, 192);
 inline constexpr QColor Gold(255, 200, 40);  // what the keys have reached
+inline constexpr QColor PaleSlate(128, 136, 184);
 inline constexpr QColor Paper(255, 253, 246);
 inline constexpr QColor Ink(32, 28, 24);
 inline constexpr QColor EdgeLight(240, 240, 240);

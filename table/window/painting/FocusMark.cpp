@@ -23,10 +23,10 @@ FocusMark::FocusMark(QWidget* table) : QWidget(table) {
 }
 
 // Leaves the edge of the next card uncovered, and so its rank too.
-void FocusMark::Frame(QRect card, int seenWidth, bool isPlayable) {
+void FocusMark::Frame(QRect card, int seenWidth, MarkLook look) {
   if (seenWidth < card.width()) card.setWidth(seenWidth - Thickness - 1);
   setGeometry(card.marginsAdded(Around));
-  if (std::exchange(hasPointer_, isPlayable) != isPlayable) update();
+  if (std::exchange(look_, look) != look) update();
 }
 
 // The shape can be seen without the colour. Frame and pointer have a dark edge, because the cards
@@ -43,9 +43,9 @@ void FocusMark::paintEvent(QPaintEvent*) {
   };
   painter.setBrush(Qt::NoBrush);
   drawFrame(Colours::Navy, Thickness + 2);
-  drawFrame(Colours::Gold, Thickness);
+  drawFrame(look_ == MarkLook::AtRest ? Colours::PaleSlate : Colours::Gold, Thickness);
 
-  if (!hasPointer_) return;
+  if (look_ != MarkLook::Pointing) return;
   const QPointF tip(part.center().x(), part.top() - Thickness - 1);
   const qreal half = PointerWidth / 2.0 - 2;
   const QPolygonF pointer{tip, tip + QPointF(-half, 1 - PointerHeight),

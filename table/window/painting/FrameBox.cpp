@@ -42,16 +42,8 @@ FilledBox::FilledBox(const QColor& fill, QWidget* parent) : QWidget(parent), fil
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void FilledBox::SetBorder(const QColor& colour, int width) {
-  border_ = colour;
-  borderWidth_ = width;
-}
-
 void FilledBox::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  if (borderWidth_ > 0) painter.fillRect(rect(), border_);
-  const int width = borderWidth_;
-  painter.fillRect(rect().adjusted(width, width, -width, -width), fill_);
+  QPainter(this).fillRect(rect(), fill_);
 }
 
 }  // namespace Parlino

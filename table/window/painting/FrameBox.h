@@ -27,19 +27,16 @@ class FrameBox : public QGroupBox {
   FrameLook look_;
 };
 
-// A box in one colour, with a border in another once it has been set.
+// A box in one colour.
 class FilledBox : public QWidget {
  public:
   FilledBox(const QColor& fill, QWidget* parent);
-  void SetBorder(const QColor& colour, int width);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
   QColor fill_;
-  QColor border_;
-  int borderWidth_ = 0;
 };
 
 }  // namespace Parlino

@@ -53,6 +53,19 @@ QPixmap CardPicture(Integer picture, qreal ratio) {
   return Picture(QString::number(picture), PictureSize(picture), ratio);
 }
 
+QPixmap DimmedPicture(Integer picture, qreal ratio) {
+  constexpr QColor dark(0, 0, 40, 120);
+  static std::map<std::pair<Integer, qreal>, QPixmap> drawn;
+  if (drawn.empty()) qAddPostRoutine([] { drawn.clear(); });
+  QPixmap& pixels = drawn[{picture, ratio}];
+  if (!pixels.isNull()) return pixels;
+  pixels = CardPicture(picture, ratio);
+  QPainter painter(&pixels);
+  painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
+  painter.fillRect(QRect({}, PictureSize(picture)), dark);
+  return pixels;
+}
+
 QPixmap MessagePicture(int picture, qreal ratio) {
   return Picture(QString("message%1").arg(picture), SmallSize, ratio);
 }

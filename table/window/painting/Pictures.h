@@ -15,6 +15,9 @@ QSize PictureSize(Integer picture);
 // Picture 1..63 at this device pixel ratio.
 QPixmap CardPicture(Integer picture, qreal ratio);
 
+// The same in the dark.
+QPixmap DimmedPicture(Integer picture, qreal ratio);
+
 // Picture 1..3 of the message dialog, 32 pixels square.
 QPixmap MessagePicture(int picture, qreal ratio);
 

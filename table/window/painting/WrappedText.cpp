@@ -55,7 +55,7 @@ int LinesThatFit(int height, const QFont& font) {
 }
 
 // Qt's own underline in this typeface runs through the bottom of large letters; this one keeps
-// clear of them.
+// clear of them, and stops beside letters that reach below it.
 void DrawLine(QPainter& painter, QRect box, const QString& text, const QFont& font) {
   constexpr double gapOfSize = 0.095;
   constexpr double thicknessOfSize = 0.05;
@@ -65,9 +65,20 @@ void DrawLine(QPainter& painter, QRect box, const QString& text, const QFont& fo
   painter.drawText(box, Qt::AlignLeft | Qt::TextDontClip, text);
   if (!font.underline()) return;
   const int size = font.pixelSize();
-  const int top = box.top() + QFontMetrics(plain).ascent() + std::max(2, qRound(size * gapOfSize));
-  painter.fillRect(box.left(), top, box.width(), std::max(1, qRound(size * thicknessOfSize)),
-                   painter.pen().color());
+  const QFontMetrics metrics(plain);
+  const int top = box.top() + metrics.ascent() + std::max(2, qRound(size * gapOfSize));
+  const int height = std::max(1, qRound(size * thicknessOfSize));
+  const auto drawUpTo = [&](int from, int to) {
+    if (to > from)
+      painter.fillRect(box.left() + from, top, to - from, height, painter.pen().color());
+  };
+  int from = 0;
+  for (qsizetype place = 0; place < text.size(); ++place) {
+    if (!QString("gjpqyQ,;").contains(text[place])) continue;
+    drawUpTo(from, metrics.horizontalAdvance(text.first(place)) - height);
+    from = metrics.horizontalAdvance(text.first(place + 1)) + height;
+  }
+  drawUpTo(from, box.width());
 }
 
 }  // namespace Parlino

@@ -32,6 +32,7 @@ void BuildBiddingPanel(const BuildSite& site) {
   const FrameLook look{Colours::Yellow, Colours::Teal,
                        TimesBold(points, Slope::Upright, Rule::Underline)};
   auto* frame = Named(new FrameBox(look, &site.parent), "FramBids");
+  site.widgets.biddingPanel = frame;
   frame->setTitle("How many tricks can you make?");
   frame->setGeometry(ToPixels(3960, 3600, 2985, 1785));
   site.mirror.Link(Table.FramBids, frame);

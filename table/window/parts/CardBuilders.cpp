@@ -5,10 +5,10 @@
 #include "table/window/mirror/TableMirror.h"
 #include "table/window/painting/CaptionLabel.h"
 #include "table/window/painting/Design.h"
-#include "table/window/painting/FrameBox.h"
 #include "table/window/painting/Named.h"
 #include "table/window/parts/Builders.h"
 #include "table/window/parts/PictureView.h"
+#include "table/window/parts/TableTop.h"
 #include "table/window/parts/TableWidgets.h"
 #include "table/window/speaking/Speaker.h"
 #include "table/window/speaking/SpokenNames.h"
@@ -54,9 +54,8 @@ void ReportCardEvents(Speaking<PictureView>& view, int card, PendingEvents& pend
 }  // namespace
 
 void BuildTableTop(const BuildSite& site) {
-  constexpr int borderWidth = 5;
-  auto* top = Named(new Speaking<FilledBox>(Colours::Green, &site.parent), "Shape1");
-  top->SetBorder(Colours::Brown, borderWidth);
+  auto* top = Named(new Speaking<TableTop>(&site.parent), "Shape1");
+  site.widgets.top = top;
   top->setGeometry(ToPixels(2880, 2640, 5535, 3855));
   site.mirror.Link(Table.Shape1, top);
 }

@@ -1,12 +1,13 @@
 #include "table/window/parts/PictureView.h"
 
+#include <utility>
+
 #include <QCursor>
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
 
 #include "table/window/painting/Design.h"
-#include "table/window/painting/Edges.h"
 #include "table/window/painting/Pictures.h"
 #include "table/window/painting/ToolTips.h"
 
@@ -22,7 +23,7 @@ QPoint HotSpot(Integer pointer, qreal ratio) {
 
 }  // namespace
 
-PictureView::PictureView(QWidget* parent) : QWidget(parent) {
+PictureView::PictureView(QWidget* parent) : CardBody(parent) {
   setMouseTracking(true);
 }
 
@@ -48,9 +49,17 @@ void PictureView::ShowPointer(Integer picture) {
   setCursor(QCursor(CardPicture(picture, ratio), spot.x(), spot.y()));
 }
 
-void PictureView::paintEvent(QPaintEvent*) {
+void PictureView::Dim(bool isDimmed) {
+  if (std::exchange(isDimmed_, isDimmed) != isDimmed) update();
+}
+
+void PictureView::paintEvent(QPaintEvent* event) {
   if (picture_ == 0) return;
-  QPainter(this).drawPixmap(0, 0, CardPicture(picture_, devicePixelRatioF()));
+  QPainter painter(this);
+  const qreal ratio = devicePixelRatioF();
+  painter.drawPixmap(0, 0,
+                     isDimmed_ ? DimmedPicture(picture_, ratio) : CardPicture(picture_, ratio));
+  PaintShadowsOn(painter, *this, event->region());
 }
 
 void PictureView::mousePressEvent(QMouseEvent* event) {
@@ -68,15 +77,12 @@ void PictureView::mouseMoveEvent(QMouseEvent*) {
   if (onHover) onHover();
 }
 
-TrickBack::TrickBack(QWidget* parent) : QWidget(parent) {
-  setAttribute(Qt::WA_OpaquePaintEvent);
-}
+TrickBack::TrickBack(QWidget* parent) : CardBody(parent) {}
 
-void TrickBack::paintEvent(QPaintEvent*) {
+void TrickBack::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
-  painter.fillRect(rect(), Colours::Navy);
-  DrawEdges(painter, rect(), Colours::Black);
   painter.drawPixmap(2, 2, SmallBack(devicePixelRatioF()));
+  PaintShadowsOn(painter, *this, event->region());
 }
 
 }  // namespace Parlino

@@ -4,15 +4,14 @@
 #include <functional>
 #include <string>
 
-#include <QWidget>
-
 #include "table/TableView.h"
+#include "table/window/painting/CardBody.h"
 
 namespace Parlino {
 
 // Shows a picture of the image list and takes on its size. A click is the left button pressed on
 // this picture and released over a visible part of it.
-class PictureView : public QWidget {
+class PictureView : public CardBody {
  public:
   explicit PictureView(QWidget* parent);
 
@@ -24,6 +23,8 @@ class PictureView : public QWidget {
   // Shows the picture of the image list as the mouse pointer (0 for the ordinary one), and a tool
   // tip, or none if it is empty.
   void ShowHint(Integer pointer, const std::string& tip);
+  // Shows the picture darker than it is, or no longer so.
+  void Dim(bool isDimmed);
   // The picture of the image list that is shown; 0 for none.
   [[nodiscard]] Integer Picture() const { return picture_; }
 
@@ -32,6 +33,7 @@ class PictureView : public QWidget {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  [[nodiscard]] bool IsSolid() const override { return picture_ != 0; }
 
  private:
   void ShowPointer(Integer picture);
@@ -39,10 +41,11 @@ class PictureView : public QWidget {
   Integer picture_ = 0;
   Integer pointer_ = 0;
   bool pressed_ = false;
+  bool isDimmed_ = false;
 };
 
 // A small card back inside a single border: one trick taken.
-class TrickBack : public QWidget {
+class TrickBack : public CardBody {
  public:
   explicit TrickBack(QWidget* parent);
 

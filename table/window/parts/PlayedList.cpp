@@ -89,7 +89,7 @@ PlayedList::PlayedList(QWidget* parent) : QListView(parent), lines_(new PlayedLi
   colours.setColor(QPalette::Highlight, Colours::Gold);
   colours.setColor(QPalette::HighlightedText, Colours::Navy);
   setPalette(colours);
-  verticalScrollBar()->setPalette(QApplication::palette());
+  verticalScrollBar()->setPalette(QPalette(Colours::Slate, Colours::Navy));
   // The context menu of a scroll bar runs an event loop of Qt's own, and the game would stand
   // still.
   verticalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);

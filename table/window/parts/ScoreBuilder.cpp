@@ -62,10 +62,12 @@ void AddRow(ScoreFrame& frame, TableMirror& mirror, int number) {
 
 void AddLines(QWidget* frame) {
   constexpr int tops[] = {1200, 1560, 2400, 2880};
+  constexpr int frameWidth = 2;  // the lines do not cross it
   int number = 1;
   for (const int top : tops) {
     auto* line = Named(new FilledBox(Colours::Peach, frame), QString("Line%1").arg(number++));
     line->setGeometry(0, ToPixels(top), ToPixels(2880), 1);
+    line->setMask(line->rect().adjusted(frameWidth, 0, -frameWidth, 0));
   }
 }
 

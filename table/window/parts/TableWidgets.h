@@ -4,6 +4,7 @@
 #include "engine/state/GameState.h"
 
 class QPushButton;
+class QWidget;
 
 namespace Parlino {
 
@@ -15,6 +16,8 @@ struct TableWidgets {
   Indexed<PictureView*, 1, CardsInPack> cards;
   Indexed<BidFace*, 1, TricksInHand> bids;
   QPushButton* dontShow = nullptr;
+  QWidget* top = nullptr;  // of the table, the green with its frame
+  QWidget* biddingPanel = nullptr;
 };
 
 }  // namespace Parlino

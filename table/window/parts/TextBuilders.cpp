@@ -9,6 +9,7 @@
 #include "table/window/mirror/TableMirror.h"
 #include "table/window/painting/CaptionLabel.h"
 #include "table/window/painting/Design.h"
+#include "table/window/painting/FlatButton.h"
 #include "table/window/painting/FrameBox.h"
 #include "table/window/painting/Named.h"
 #include "table/window/parts/Builders.h"
@@ -100,7 +101,7 @@ void BuildInfoLine(const BuildSite& site) {
 }
 
 void BuildWelcomeButton(const BuildSite& site) {
-  auto* button = Named(new QPushButton(&site.parent), "CmdDontShow");
+  auto* button = Named(new FlatButton({}, &site.parent), "CmdDontShow");
   site.widgets.dontShow = button;
   button->setGeometry(ToPixels(2880, 8520, 5775, 375));
   button->setFont(WindowFont());

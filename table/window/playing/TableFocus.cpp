@@ -16,6 +16,14 @@
 #include "table/window/parts/TableWidgets.h"
 
 namespace Parlino {
+namespace {
+
+MarkLook LookOfMark(Integer card) {
+  if (PlayerTurn == False) return MarkLook::AtRest;
+  return CardsHumanMayPlay().Has(card) ? MarkLook::Pointing : MarkLook::Plain;
+}
+
+}  // namespace
 
 TableFocus::TableFocus(QWidget& table, const TableWidgets& widgets, const KeyUse& keyUse)
     : table_(table), widgets_(widgets), keyUse_(keyUse), mark_(&table) {
@@ -116,7 +124,7 @@ void TableFocus::ShowMark() {
     const TablePoint next = Table.Cds[after.Lowest()].Place;
     seenWidth = std::min(seenWidth, ToPixels(next.Left - Table.Cds[hand_.Card()].Place.Left));
   }
-  mark_.Frame(card_->geometry(), seenWidth, CardsHumanMayPlay().Has(hand_.Card()));
+  mark_.Frame(card_->geometry(), seenWidth, LookOfMark(hand_.Card()));
   mark_.show();
 }
 

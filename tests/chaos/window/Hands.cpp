@@ -164,11 +164,6 @@ void ChangeAnyWindow(Chaos& chaos) {
   AnyPart(chaos)->setFocus();
 }
 
-void EndSession(Chaos&) {
-  QEvent quit(QEvent::Quit);
-  QApplication::sendEvent(qApp, &quit);
-}
-
 }  // namespace
 
 // Qt lists its windows in no particular order, but a run must be repeatable.
@@ -206,7 +201,7 @@ void DoAnythingByHand(Chaos& chaos) {
                {"strike any key", 300, StrikeAnyKey},
                {"write anything", 60, WriteAnything},
                {"change any window", 140, ChangeAnyWindow},
-               {"end the session", 3, EndSession}};
+               {"end the session", 3, [](Chaos&) { WindowGame::EndSession(); }}};
   if (WindowsThere().isEmpty()) return;
   const auto deed = chaos.person.OneByWeight(deeds);
   chaos.Note(deed.name);
