@@ -1,6 +1,6 @@
 // parlino-frames: plays one hand in the real window in real time and prints, for the deal and for
-// the whole hand, how many frames of gliding cards were drawn and how many were dropped, how often
-// the window was painted and how long that took.
+// the whole hand, how many frames of gliding cards were drawn and how many were dropped, the
+// longest time between two of them, how often the window was painted and how long that took.
 
 #include <algorithm>
 #include <cmath>
@@ -25,11 +25,17 @@
 
 namespace {
 
+double MsOf(const QElapsedTimer& clock) {
+  constexpr double nsInMs = 1e6;
+  return static_cast<double>(clock.nsecsElapsed()) / nsInMs;
+}
+
 struct Paintings {
   int count = 0;
   int ofMovingCards = 0;
   double totalMs = 0;
   double longestMs = 0;
+  double longestGapMs = 0;  // between two paintings of cards on their way
 };
 
 // Qt paints the window in response to one event, which is watched here.
@@ -46,18 +52,28 @@ class WatchedApplication : public QApplication {
     QElapsedTimer clock;
     clock.start();
     const bool done = QApplication::notify(receiver, event);
-    constexpr double nsInMs = 1e6;
-    const double ms = static_cast<double>(clock.nsecsElapsed()) / nsInMs;
+    const double ms = MsOf(clock);
     ++paintings.count;
-    if (std::exchange(hasCardMoved_, false)) ++paintings.ofMovingCards;
+    if (std::exchange(hasCardMoved_, false)) CountFrame();
     paintings.totalMs += ms;
     paintings.longestMs = std::max(paintings.longestMs, ms);
     afterPainting();
     return done;
   }
 
+  // What is painted next is not a part of the movement before.
+  void EndMovement() { sinceFrame_.invalidate(); }
+
  private:
+  void CountFrame() {
+    ++paintings.ofMovingCards;
+    if (sinceFrame_.isValid())
+      paintings.longestGapMs = std::max(paintings.longestGapMs, MsOf(sinceFrame_));
+    sinceFrame_.start();
+  }
+
   bool hasCardMoved_ = false;
+  QElapsedTimer sinceFrame_;
 };
 
 // While cards are on their way, every wait has a time at which the next frame is due. When that has
@@ -66,22 +82,25 @@ class WatchedPlatform : public Parlino::QtPlatform {
  public:
   using QtPlatform::QtPlatform;
   int dropped = 0;
+  std::function<void()> onRest = [] {};  // no card is on its way
 
  protected:
   void WaitForQt(std::uint32_t atMostMs) override {
     const std::uint32_t now = Ticks();
     const std::uint32_t toNextFrame = Motion().MsToNextFrame(now);
-    if (toNextFrame == Parlino::Forever)
+    if (toNextFrame == Parlino::Forever) {
       due_.reset();
-    else
+      onRest();
+    } else {
       Count(now + toNextFrame);
+    }
     QtPlatform::WaitForQt(atMostMs);
   }
 
  private:
   void Count(std::uint32_t due) {
     if (due_ && due != *due_)
-      dropped += static_cast<int>(std::lround((due - *due_) / frameMs_)) - 1;
+      dropped += std::max(0, static_cast<int>(std::lround((due - *due_) / frameMs_)) - 1);
     due_ = due;
   }
 
@@ -91,8 +110,10 @@ class WatchedPlatform : public Parlino::QtPlatform {
 
 void Print(const char* what, const WatchedPlatform& platform, const Paintings& paintings) {
   std::printf(
-      "%s: %d frames drawn, %d dropped; painted %d times, %.1f ms on average, %.1f at most\n", what,
-      paintings.ofMovingCards, platform.dropped, paintings.count,
+      "%s: %d frames drawn, %d dropped, %.1f ms apart at most; painted %d times, %.1f ms on "
+      "average, "
+      "%.1f at most\n",
+      what, paintings.ofMovingCards, platform.dropped, paintings.longestGapMs, paintings.count,
       paintings.totalMs / paintings.count, paintings.longestMs);
 }
 
@@ -106,6 +127,7 @@ int main(int count, char* arguments[]) {
   Parlino::SetUpGame(platform);
   Parlino::WriteFirstRecords();
   Parlino::DealGenerator.Seed(seed);
+  platform.onRest = [&application] { application.EndMovement(); };
   bool isDealt = false;
   application.afterPainting = [&] {
     if (isDealt || !Parlino::Table.FramBids.Visible) return;
