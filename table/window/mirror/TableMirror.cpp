@@ -32,7 +32,7 @@ void TableMirror::ShowChanges(std::uint32_t now, std::uint32_t pauseMs) {
 // they go together to where the fourth goes. The fourth is the last of the result.
 std::vector<TableMirror::Tie*> TableMirror::FindGathered() {
   constexpr std::size_t cardsThatGo = 3;
-  if (!glides_.AreAllowed() || !shown_) return {};
+  if (!shown_) return {};
   std::vector<Tie*> gathered;
   Tie* last = nullptr;
   for (Tie& tie : ties_) {
