@@ -54,8 +54,11 @@ void TableMirror::ShowGathered(const std::vector<Tie*>& gathered, const Pause& p
   const QPoint goal = ToPixels(gathered.back()->control->Place);
   for (const Tie* tie : gathered) {
     glides_.Cut(tie->widget);
-    glides_.BeginAfterRest(tie->widget, goal, pause.begins, pause.lengthMs, tie->show,
-                           [tie] { tie->widget->setVisible(tie->control->Visible); });
+    glides_.BeginAfterRest(tie->widget, goal, pause.begins, pause.lengthMs, tie->show, [tie] {
+      if (tie->control->Visible) return;
+      tie->widget->hide();
+      tie->widget->move(ToPixels(tie->control->Place));
+    });
   }
 }
 
