@@ -36,7 +36,7 @@ struct Mark {
 };
 constexpr std::array Marks{
     Mark{"index pip", 2, {4, 27, 18, 17}}, Mark{"pip of a two", 2, {28, 3, 21, 30}},
-    Mark{"pip of a four", 4, {26, 1, 15, 24}}, Mark{"pip of a ten", 10, {26, 1, 14, 22}},
+    Mark{"pip of a four", 4, {27, 1, 15, 24}}, Mark{"pip of a ten", 10, {27, 1, 14, 22}},
     Mark{"trump tile", 0, {4, 2, 40, 44}}};
 constexpr QRect IndexBox(2, 5, 22, 38);
 

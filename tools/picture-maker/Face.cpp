@@ -63,10 +63,10 @@ Drawing ComposePips(int value) {
   return pips;
 }
 
-// As large as what a covered card shows allows.
+// A little larger than it is drawn, and still clear of what a covered card shows.
 Drawing ComposeAce(const std::filesystem::path& sources, const Suit& suit) {
   return Place(ReadDrawing(sources / "aces" / (std::string(suit.name) + ".svg")),
-               "translate(47 48) scale(1.1) translate(-47.5 -48)");
+               "translate(47.5 48) scale(1.05) translate(-47.5 -48)");
 }
 
 // The seam of the two figures falls for a jack, rises for a queen and is level for a king.

@@ -3,7 +3,7 @@
 namespace Parlino {
 namespace {
 
-constexpr double FieldX = 46.5, MiddleY = 48, ToTheSide = 13;
+constexpr double FieldX = 47.5, MiddleY = 48, ToTheSide = 13;
 constexpr int LastLargeValue = 3;
 
 // The few large pips stand between the middle of the card and that of the field: the card would

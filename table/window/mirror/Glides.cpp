@@ -66,11 +66,20 @@ void Glides::Begin(QWidget* widget, QPoint goal, std::uint32_t now, std::uint32_
 
 void Glides::BeginAfterRest(QWidget* widget, QPoint goal, std::uint32_t now, std::uint32_t pauseMs,
                             std::function<void()> onLeaving, std::function<void()> onArrival) {
-  const double restMs = RestOfPause * pauseMs;
+  const bool hasTime = pauseMs != 0 && pauseMs != Forever;
+  const double restMs = hasTime ? RestOfPause * pauseMs : 0;
   if (glides_.empty()) BeginCounting(*widget, now);
-  const double lengthMs = std::max(1.0, pauseMs - restMs - frameMs_ / 2);
-  glides_.push_back({widget, widget->pos(), goal, now, restMs, lengthMs, std::move(onLeaving),
-                     std::move(onArrival)});
+  const double lengthMs = areAllowed_ ? std::max(1.0, pauseMs - restMs - frameMs_ / 2) : 1;
+  Glide glide{widget,
+              widget->pos(),
+              goal,
+              now,
+              restMs,
+              lengthMs,
+              std::move(onLeaving),
+              std::move(onArrival)};
+  if (!hasTime) return Arrive(glide);
+  glides_.push_back(std::move(glide));
 }
 
 void Glides::BeginCounting(const QWidget& widget, std::uint32_t now) {
@@ -91,7 +100,8 @@ void Glides::DrawFrame(std::uint32_t now) {
   if (glides_.empty() || MsToNextFrame(now) > 0) return;
   const int frame = static_cast<int>((now - firstFrame_) / frameMs_);
   nextFrame_ = std::max(frame, nextFrame_) + 1;
-  std::erase_if(glides_, [&](Glide& glide) { return !Advance(glide, now); });
+  for (Glide& glide : glides_) Advance(glide, now);
+  std::erase_if(glides_, [](const Glide& glide) { return glide.hasArrived; });
 }
 
 void Glides::Arrive(Glide& glide) {
@@ -99,23 +109,19 @@ void Glides::Arrive(Glide& glide) {
   Lift(glide.widget, false);
   glide.widget->move(glide.goal);
   if (glide.onArrival) glide.onArrival();
+  glide.hasArrived = true;
 }
 
-// What is drawn now is seen until the next frame; it is right in the middle of that time. False
-// when the widget has arrived.
-bool Glides::Advance(Glide& glide, std::uint32_t now) const {
+// What is drawn now is seen until the next frame; it is right in the middle of that time.
+void Glides::Advance(Glide& glide, std::uint32_t now) const {
   const double progress = (now - glide.begun + frameMs_ / 2 - glide.restMs) / glide.lengthMs;
-  if (progress <= 0) return true;
-  if (progress >= 1) {
-    Arrive(glide);
-    return false;
-  }
+  if (progress <= 0) return;
+  if (progress >= 1) return Arrive(glide);
   if (glide.onLeaving) {
     Leave(glide.onLeaving);
     Lift(glide.widget, true);
   }
   glide.widget->move(glide.from + (glide.goal - glide.from) * EaseOut(progress));
-  return true;
 }
 
 std::uint32_t Glides::MsToNextFrame(std::uint32_t now) const {

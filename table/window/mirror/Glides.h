@@ -26,10 +26,10 @@ class Glides {
   void Begin(QWidget* widget, QPoint goal, std::uint32_t now, std::uint32_t pauseMs);
 
   // The same for a card of a finished trick: it rests for a moment before it leaves, so that the
-  // trick can be seen. `onLeaving` is called then and `onArrival` at the end, both once.
+  // trick can be seen; where nothing glides it rests as long and is then there. `onLeaving` is
+  // called when it leaves and `onArrival` at the end, both once; neither may begin or cut a glide.
   void BeginAfterRest(QWidget* widget, QPoint goal, std::uint32_t now, std::uint32_t pauseMs,
                       std::function<void()> onLeaving, std::function<void()> onArrival);
-  [[nodiscard]] bool AreAllowed() const { return areAllowed_; }
 
   // Ends the widget's glide where it was going; without one nothing happens.
   void Cut(const QWidget* widget);
@@ -50,11 +50,12 @@ class Glides {
     double lengthMs;
     std::function<void()> onLeaving;
     std::function<void()> onArrival;
+    bool hasArrived = false;
   };
 
   static void Arrive(Glide& glide);
   void BeginCounting(const QWidget& widget, std::uint32_t now);
-  [[nodiscard]] bool Advance(Glide& glide, std::uint32_t now) const;
+  void Advance(Glide& glide, std::uint32_t now) const;
 
   std::vector<Glide> glides_;
   bool areAllowed_ = true;

@@ -32,7 +32,7 @@ void TableMirror::ShowChanges(std::uint32_t now, std::uint32_t pauseMs) {
 // they go together to where the fourth goes. The fourth is the last of the result.
 std::vector<TableMirror::Tie*> TableMirror::FindGathered() {
   constexpr std::size_t cardsThatGo = 3;
-  if (!glides_.AreAllowed() || !shown_) return {};
+  if (!shown_) return {};
   std::vector<Tie*> gathered;
   Tie* last = nullptr;
   for (Tie& tie : ties_) {
@@ -54,8 +54,11 @@ void TableMirror::ShowGathered(const std::vector<Tie*>& gathered, const Pause& p
   const QPoint goal = ToPixels(gathered.back()->control->Place);
   for (const Tie* tie : gathered) {
     glides_.Cut(tie->widget);
-    glides_.BeginAfterRest(tie->widget, goal, pause.begins, pause.lengthMs, tie->show,
-                           [tie] { tie->widget->setVisible(tie->control->Visible); });
+    glides_.BeginAfterRest(tie->widget, goal, pause.begins, pause.lengthMs, tie->show, [tie] {
+      if (tie->control->Visible) return;
+      tie->widget->hide();
+      tie->widget->move(ToPixels(tie->control->Place));
+    });
   }
 }
 

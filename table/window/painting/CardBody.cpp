@@ -111,14 +111,18 @@ bool CardBody::event(QEvent* event) {
 }
 
 void CardBody::PaintShadowsOnTable(QPainter& painter, const QWidget& table, const QRegion& parts) {
+  painter.save();
   for (const QRect& part : parts) PaintShadows(painter, table.children(), 0, {}, part);
+  painter.restore();
 }
 
 // The children of the table are in their order from the back to the front.
 void CardBody::PaintShadowsOn(QPainter& painter, const QWidget& ground, const QRegion& parts) {
   const QObjectList& things = ground.parentWidget()->children();
   const qsizetype first = things.indexOf(&ground) + 1;
+  painter.save();
   for (const QRect& part : parts) PaintShadows(painter, things, first, ground.pos(), part);
+  painter.restore();
 }
 
 // Each of many cards asks for all that lie above it. What is far away is left out first; then what
@@ -126,7 +130,8 @@ void CardBody::PaintShadowsOn(QPainter& painter, const QWidget& ground, const QR
 // goes from line to line, with threads to help it that cost more than they bring.
 void CardBody::PaintShadows(QPainter& painter, const QObjectList& things, qsizetype first,
                             QPoint origin, const QRect& part) {
-  constexpr int furthest = 15, corner = 6;
+  constexpr int furthest = 15;  // a shadow reaches and is shifted, at most
+  constexpr int corner = 6;     // where the body is rounded, what lies below is seen
   const QRect near = part.translated(origin).adjusted(-furthest, -furthest, furthest, furthest);
   QRegion seen = part;
   QRect last;
@@ -138,8 +143,8 @@ void CardBody::PaintShadows(QPainter& painter, const QObjectList& things, qsizet
     if (body == nullptr || !body->IsSolid()) continue;
     const QRect lying = body->geometry().translated(-origin);
     const QRect box = body->ShadowBox(lying);
-    if (AreAsOne(box, last)) continue;
-    last = box;
+    const bool isNext = AreAsOne(std::exchange(last, box), box);
+    if (isNext) continue;
     seen -= lying.adjusted(corner, corner, -corner, -corner);
     for (const QRect& spot : seen.intersected(box)) {
       painter.setClipRect(spot);

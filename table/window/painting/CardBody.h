@@ -13,9 +13,8 @@ class CardBody : public QWidget {
   void Lift(bool isLifted);
 
   // Paint the shadows that fall on parts of the table, and on parts of a widget of the table: of
-  // the bodies above it. Nothing else can be painted outside the last part afterwards. It is the
-  // ground that paints them, so a shadow falls on the next card as well as on the table, and the
-  // body keeps the place and size of the card.
+  // the bodies above it. The ground paints them, so that a shadow falls on the next card as well as
+  // on the table, and the body keeps the place and size of the card.
   static void PaintShadowsOnTable(QPainter& painter, const QWidget& table, const QRegion& parts);
   static void PaintShadowsOn(QPainter& painter, const QWidget& ground, const QRegion& parts);
 

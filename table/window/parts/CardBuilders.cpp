@@ -55,7 +55,7 @@ void ReportCardEvents(Speaking<PictureView>& view, int card, PendingEvents& pend
 
 void BuildTableTop(const BuildSite& site) {
   auto* top = Named(new Speaking<TableTop>(&site.parent), "Shape1");
-  site.widgets.top = top;
+  site.widgets.tableTop = top;
   top->setGeometry(ToPixels(2880, 2640, 5535, 3855));
   site.mirror.Link(Table.Shape1, top);
 }

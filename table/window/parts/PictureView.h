@@ -44,7 +44,7 @@ class PictureView : public CardBody {
   bool isDimmed_ = false;
 };
 
-// A small card back inside a single border: one trick taken.
+// One trick taken: the small back, inside a border that shows as the edges of its cards.
 class TrickBack : public CardBody {
  public:
   explicit TrickBack(QWidget* parent);

@@ -16,7 +16,7 @@ struct TableWidgets {
   Indexed<PictureView*, 1, CardsInPack> cards;
   Indexed<BidFace*, 1, TricksInHand> bids;
   QPushButton* dontShow = nullptr;
-  QWidget* top = nullptr;  // of the table, the green with its frame
+  QWidget* tableTop = nullptr;
   QWidget* biddingPanel = nullptr;
 };
 

@@ -9,6 +9,7 @@
 
 #include "engine/state/Questions.h"
 #include "table/CardDisplay.h"
+#include "table/TableEvents.h"
 #include "table/window/painting/Design.h"
 #include "table/window/painting/Pictures.h"
 #include "table/window/parts/PictureView.h"
@@ -111,6 +112,7 @@ void TurnLight::Follow() {
 
 Lit TurnLight::FindLight() const {
   Lit lit;
+  if (!TableTakesInput()) return lit;
   if (Table.FramBids.Visible) {
     lit.place = widgets_.biddingPanel->geometry();
   } else if (PlayerTurn != False) {
@@ -159,7 +161,8 @@ QRect TurnLight::Mat() const {
 // On the green, beside the frame: the tip at the middle of the side that the seat sits at.
 LightPointer TurnLight::SeatPointer() const {
   constexpr int border = 5;
-  const QRectF inner = QRectF(widgets_.top->geometry()).adjusted(border, border, -border, -border);
+  const QRectF inner =
+      QRectF(widgets_.tableTop->geometry()).adjusted(border, border, -border, -border);
   const QPointF middle = inner.center();
   switch (lit_.seat) {
     case West:

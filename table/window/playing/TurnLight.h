@@ -43,6 +43,7 @@ class TurnLight : public QWidget {
  private:
   [[nodiscard]] Lit FindLight() const;
   void LookAtTrick(Lit& lit) const;
+  // What is dimmed changes only with what is lit.
   void DimOthers() const;
   [[nodiscard]] QRect Mat() const;
   [[nodiscard]] LightPointer SeatPointer() const;

@@ -59,28 +59,29 @@ QString NameIn(const QWidget& widget) {
 }
 
 // What the widget shows in place of what the model says; what agrees stays as it is.
-void See(const QWidget& widget, ControlLook& look, bool nothingGlides) {
+void See(const QWidget& widget, ControlLook& look) {
   look.visible = IsInTable(widget) ? !widget.isHidden() : widget.isVisible();
   const QVariant text = widget.property("text");
   if (text.isValid() && look.visible) look.caption = text.toString().toStdString();
   const bool isPlaced = look.card != 0 || look.name.starts_with("LblName");
-  if (isPlaced && nothingGlides && widget.pos() != ToPixels(look.place))
+  if (isPlaced && widget.pos() != ToPixels(look.place))
     look.place = {1.0 * widget.x() * TwipsInPixel, 1.0 * widget.y() * TwipsInPixel};
   if (const auto* view = dynamic_cast<const PictureView*>(&widget)) look.picture = view->Picture();
 }
 
-// The look of the windows, beginning with that of the model.
+// The look of the windows, beginning with that of the model. While cards are on their way, or rest
+// before they leave, they show what was before.
 TableLook LookAtWindows(TableLook look, bool nothingGlides) {
   QHash<QString, ControlLook*> controls;
   for (ControlLook& control : look.controls) {
-    control.visible = false;  // unless there is a widget
     const bool isCard = control.card != 0;
+    if (isCard && !nothingGlides) continue;
+    control.visible = false;  // unless there is a widget
     controls[isCard ? MemberName("Cds", control.card) : QString::fromStdString(control.name)] =
         &control;
   }
   for (const QWidget* widget : QApplication::allWidgets())
-    if (ControlLook* control = controls.value(NameIn(*widget)))
-      See(*widget, *control, nothingGlides);
+    if (ControlLook* control = controls.value(NameIn(*widget))) See(*widget, *control);
   const auto& list = *dynamic_cast<QListView&>(WindowGame::Find("LstCardsPlayed")).model();
   look.lines.clear();
   for (int row = 0; row < list.rowCount(); ++row)
