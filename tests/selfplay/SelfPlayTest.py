@@ -4,9 +4,11 @@ import csv
 import json
 import os
 import pathlib
+import signal
 import subprocess
 import sys
 import tempfile
+import time
 
 PROGRAM = pathlib.Path(sys.argv[1]).resolve()
 RUN = "--hands 5300 --seed 8 "
@@ -93,6 +95,17 @@ def try_death_of_session():
     expect_nothing_new("a session that dies leaves files behind")
 
 
+def try_breaking_off(jobs):
+    long = [PROGRAM, *f"--hands 2000000 --seed 8 {jobs} --transcript kept --csv new".split()]
+    with subprocess.Popen(long, stderr=subprocess.PIPE, text=True) as process:
+        while len(os.listdir()) == 1 and process.poll() is None:
+            time.sleep(0.01)
+        process.send_signal(signal.SIGTERM)
+        said = process.stderr.read()
+    expect(process.returncode == 1 and said == "parlino-selfplay: stopped\n", said)
+    expect_nothing_new(f"a run {jobs} that is broken off leaves files behind")
+
+
 with tempfile.TemporaryDirectory() as folder:
     os.chdir(folder)
     pathlib.Path("kept").write_text("old")
@@ -102,4 +115,6 @@ with tempfile.TemporaryDirectory() as folder:
                f'"{arguments}" ends with {done}')
         expect_nothing_new(f'"{arguments}" leaves files behind')
     try_death_of_session()
+    try_breaking_off("")
+    try_breaking_off("--jobs 2")
     try_jobs()

@@ -1,6 +1,7 @@
 // parlino-selfplay: plays hands at the headless table and prints how they went.
 
 #include <chrono>
+#include <csignal>
 #include <exception>
 #include <iostream>
 #include <optional>
@@ -16,6 +17,20 @@
 namespace Parlino {
 namespace {
 
+struct Stopped {};  // no std::exception: the game would tell it in a box and play on
+
+volatile std::sig_atomic_t stopAsked = 0;
+
+void AskToStop(int /*signal*/) {
+  stopAsked = 1;
+}
+
+// So that a run that is broken off puts away what it has written so far.
+void StopBetweenHandsWhenAsked() {
+  for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+    if (std::signal(signal, AskToStop) == SIG_IGN) std::signal(signal, SIG_IGN);
+}
+
 Figures PlayHands(const SelfPlayOptions& options, std::ostream* transcript) {
   const SessionPlan run{options.seed, 0, options.hands, options.isSouthARobot};
   if (transcript != nullptr)
@@ -23,7 +38,10 @@ Figures PlayHands(const SelfPlayOptions& options, std::ostream* transcript) {
                           options.isSouthARobot ? "robot" : "random",
                           options.jobs > 0 ? HandsInSession : 0);
   Progress progress(options.hands);
-  const auto show = [&progress](long hands) { progress.Show(hands); };
+  const auto show = [&progress](long hands) {
+    if (stopAsked != 0) throw Stopped{};
+    progress.Show(hands);
+  };
   return options.jobs > 0 ? PlaySessions(run, options.jobs, transcript, show)
                           : PlaySession(run, transcript, show);
 }
@@ -60,8 +78,12 @@ int main(int count, char** arguments) {
     return 0;
   }
   try {
+    Parlino::StopBetweenHandsWhenAsked();
     Parlino::Play(options);
     return 0;
+  } catch (const Parlino::Stopped&) {
+    std::cerr << "parlino-selfplay: stopped\n";
+    return 1;
   } catch (const std::exception& error) {
     std::cerr << "parlino-selfplay: " << error.what() << "\n";
     return 1;

@@ -39,7 +39,7 @@ Plays hands at the table without a window, without pauses, and prints how they w
   --help               says this
 
 A file is there when all of it has been written; until then, and if anything goes
-wrong, what was there before stays. On a terminal a run of more than a second says
+wrong or the run is stopped with Ctrl+C, what was there before stays. On a terminal a run of more than a second says
 how far it has come.
 
 In the summary, a seat's bid is made if the seat takes as many tricks itself, and a
