@@ -16,6 +16,7 @@
 #include <QWindow>
 
 #include "engine/state/Errors.h"
+#include "table/CardDisplay.h"
 #include "table/window/painting/Design.h"
 #include "table/window/painting/Pictures.h"
 #include "table/window/painting/WrappedText.h"
@@ -89,7 +90,13 @@ double QtPlatform::ClockSeconds() {
   return QTime::currentTime().msecsSinceStartOfDay() / msInSecond;
 }
 
+// The first sound of a deal loads the library or looks for a device, which takes longer than a
+// frame. The player sees before that what the key or the click has done.
 void QtPlatform::StartSound(std::string_view fileName) {
+  if (fileName == ShuffleSound) {
+    ShowModel(0);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest);
+  }
   sound_.Start(fileName);
 }
 

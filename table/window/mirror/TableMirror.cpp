@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include <QWidget>
-
 #include "table/window/mirror/Glides.h"
 #include "table/window/painting/Design.h"
 
@@ -65,10 +63,19 @@ void TableMirror::ShowGathered(const std::vector<Tie*>& gathered, const Pause& p
 void TableMirror::ShowControl(Tie& tie, const Pause& pause) {
   tie.show();
   if (tie.placing != Placing::Fixed) ShowPlace(tie, pause);
-  if (tie.control->Visible) tie.widget->show();
+  if (tie.control->Visible) Show(tie);
   if (tie.layer == tie.control->Layer) return;
   tie.layer = tie.control->Layer;
   toFront_.push_back(&tie);
+}
+
+// While the mouse is grabbed, Qt does not ask the display server for the pointer at each widget
+// that comes into view. A pack of cards would wait for 52 answers; the table looks once for all of
+// them.
+void TableMirror::Show(const Tie& tie) {
+  if (tie.placing == Placing::Glides) grabber_.grabMouse();
+  tie.widget->show();
+  if (tie.placing == Placing::Glides) grabber_.releaseMouse();
 }
 
 // Only a widget that was visible before and still is can be seen moving.

@@ -7,9 +7,9 @@
 #include <utility>
 #include <vector>
 
-#include "table/TableView.h"
+#include <QWidget>
 
-class QWidget;
+#include "table/TableView.h"
 
 namespace Parlino {
 
@@ -60,11 +60,13 @@ class TableMirror {
   [[nodiscard]] std::vector<Tie*> FindGathered();
   void ShowGathered(const std::vector<Tie*>& gathered, const Pause& pause);
   void ShowControl(Tie& tie, const Pause& pause);
+  void Show(const Tie& tie);
   void ShowPlace(const Tie& tie, const Pause& pause);
   void BringChangedToFront();
 
   Glides& glides_;
   std::function<void()> moveFocus_;
+  QWidget grabber_;  // never shown
   std::vector<Tie> ties_;
   std::vector<Tie*> toFront_;
   std::vector<QWidget*> front_;
