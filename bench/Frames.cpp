@@ -110,9 +110,8 @@ class WatchedPlatform : public Parlino::QtPlatform {
 
 void Print(const char* what, const WatchedPlatform& platform, const Paintings& paintings) {
   std::printf(
-      "%s: %d frames drawn, %d dropped, %.1f ms apart at most; painted %d times, %.1f ms on "
-      "average, "
-      "%.1f at most\n",
+      "%s: %d frames drawn, %d dropped, %.1f ms apart at most; "
+      "painted %d times, %.1f ms on average, %.1f at most\n",
       what, paintings.ofMovingCards, platform.dropped, paintings.longestGapMs, paintings.count,
       paintings.totalMs / paintings.count, paintings.longestMs);
 }
@@ -134,7 +133,9 @@ int main(int count, char* arguments[]) {
     isDealt = true;
     Print("deal", platform, application.paintings);
   };
-  const Parlino::Demonstrator player({});
+  // Opening the window is no part of the deal, and a person would not begin before it is there.
+  constexpr int thinkingMs = 500;
+  const Parlino::Demonstrator player({}, thinkingMs);
   const int status = Parlino::RunGame();
   Print("hand", platform, application.paintings);
   return status;
