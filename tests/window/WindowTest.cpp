@@ -69,6 +69,17 @@ TEST(Window, ThatIsTooLargeIsMadeToFitTheScreen) {
   EXPECT_EQ(window.size(), RoomForWindow(*window.screen()));
 }
 
+TEST(Window, OpensWithNothingOnItsWay) {
+  WindowGame game;
+  game.platform.Motion().Allow(true);
+  std::uint32_t toNextFrame = 0;
+  game.Run([&] {
+    toNextFrame = game.platform.Motion().MsToNextFrame(game.platform.Ticks());
+    throw SeenEnough{};
+  });
+  EXPECT_EQ(toNextFrame, Forever);
+}
+
 // Also run on a display with a window manager, whose frames are not the same on all sides.
 TEST(Window, OpensInTheMiddleFrameIncluded) {
   WindowGame game;

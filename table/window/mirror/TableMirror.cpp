@@ -83,7 +83,7 @@ void TableMirror::ShowPlace(const Tie& tie, const Pause& pause) {
   glides_.Cut(tie.widget);
   const QPoint place = ToPixels(tie.control->Place);
   if (place == tie.widget->pos()) return;
-  const bool isSeen = tie.control->Visible && !tie.widget->isHidden();
+  const bool isSeen = shown_ && tie.control->Visible && !tie.widget->isHidden();
   if (tie.placing == Placing::Glides && isSeen)
     glides_.Begin(tie.widget, place, pause.begins, pause.lengthMs);
   else
