@@ -23,6 +23,7 @@ WRONG = [
     (RUN + "--jobs 0", 2, '--jobs cannot be "0"'),
     (RUN + "--job 2", 2, "--job is not an option"),
     (RUN + "--csv kept --transcript kept", 2, "name the same file"),
+    (RUN + "--csv ./kept --transcript kept", 2, "name the same file"),
     (RUN + "--transcript nowhere/new", 1, "nowhere/new cannot be written: No such file"),
     (RUN + "--transcript kept --csv .", 1, ". cannot be written: Is a directory"),
     (RUN + "--transcript kept --csv /dev/full", 1, "/dev/full cannot be written: No space"),

@@ -5,6 +5,7 @@
 #include <exception>
 #include <iostream>
 #include <optional>
+#include <stdexcept>
 
 #include "tools/selfplay/Jobs.h"
 #include "tools/selfplay/Options.h"
@@ -25,10 +26,16 @@ void AskToStop(int /*signal*/) {
   stopAsked = 1;
 }
 
-// So that a run that is broken off puts away what it has written so far.
+// So that a run that is broken off puts away what it has written so far. A call that waits for
+// somebody at the other end of a pipe ends with an error.
 void StopBetweenHandsWhenAsked() {
+  struct sigaction ask {};
+  struct sigaction before {};
+  ask.sa_handler = AskToStop;
   for (const int signal : {SIGINT, SIGTERM, SIGHUP})
-    if (std::signal(signal, AskToStop) == SIG_IGN) std::signal(signal, SIG_IGN);
+    if (sigaction(signal, &ask, &before) == 0 && before.sa_handler == SIG_IGN)
+      sigaction(signal, &before, nullptr);
+  std::signal(SIGPIPE, SIG_IGN);
 }
 
 Figures PlayHands(const SelfPlayOptions& options, std::ostream* transcript) {
@@ -61,6 +68,7 @@ void Play(const SelfPlayOptions& options) {
   for (auto* file : {&transcript, &table})
     if (*file) (*file)->PutInPlace();
   PrintSummary(std::cout, figures, elapsed.count());
+  if (!std::cout.flush()) throw std::runtime_error("the summary cannot be written");
 }
 
 }  // namespace

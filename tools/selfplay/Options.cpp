@@ -1,6 +1,8 @@
 #include "tools/selfplay/Options.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 
 #include "tools/CommandLine.h"
 
@@ -18,6 +20,11 @@ auto TakeName(std::string& name) {
     name = text;
     return !text.empty();
   };
+}
+
+std::filesystem::path PlaceOf(const std::string& name) {
+  std::error_code ignored;
+  return std::filesystem::weakly_canonical(std::filesystem::absolute(name, ignored), ignored);
 }
 
 }  // namespace
@@ -39,8 +46,8 @@ Plays hands at the table without a window, without pauses, and prints how they w
   --help               says this
 
 A file is there when all of it has been written; until then, and if anything goes
-wrong or the run is stopped with Ctrl+C, what was there before stays. On a terminal a run of more than a second says
-how far it has come.
+wrong or the run is stopped with Ctrl+C, what was there before stays. On a terminal
+a run of more than a second says how far it has come.
 
 In the summary, a seat's bid is made if the seat takes as many tricks itself, and a
 team's if the partners do together; half tricks are those that robots' bids left out.
@@ -63,7 +70,8 @@ std::string ParseOptions(int count, const char* const* arguments, SelfPlayOption
                                           {"--jobs", TakeNumber(options.jobs, 1), false},
                                           {"--transcript", TakeName(options.transcript), false},
                                           {"--csv", TakeName(options.table), false}});
-  if (complaint.empty() && !options.table.empty() && options.table == options.transcript)
+  if (complaint.empty() && !options.table.empty() && !options.transcript.empty() &&
+      PlaceOf(options.table) == PlaceOf(options.transcript))
     complaint = "--transcript and --csv name the same file";
   return complaint;
 }

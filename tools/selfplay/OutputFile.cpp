@@ -11,13 +11,17 @@ namespace Parlino {
 
 OutputFile::OutputFile(const std::string& name) : name_(name), place_(name), written_(name) {
   std::error_code ignored;
-  if (!std::filesystem::exists(name, ignored) || std::filesystem::is_regular_file(name, ignored)) {
+  // A device is written to as it is. It may lead on to a file with something in it, such as a log.
+  const bool isDevice = name.starts_with("/dev/") || name.starts_with("/proc/");
+  const bool isFile =
+      !std::filesystem::exists(name, ignored) || std::filesystem::is_regular_file(name, ignored);
+  if (isFile && !isDevice) {
     place_ = std::filesystem::weakly_canonical(name, ignored).string();
     if (place_.empty()) place_ = name;
     written_ = place_ + "." + std::to_string(getpid()) + ".part";
   }
   errno = 0;
-  stream_.open(written_, std::ios::binary);
+  stream_.open(written_, isDevice ? std::ios::binary | std::ios::app : std::ios::binary);
   if (!stream_) RaiseUnwritable();
 }
 

@@ -6,6 +6,7 @@
 #include <poll.h>
 #include <sstream>
 #include <stdexcept>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <system_error>
 #include <type_traits>
@@ -31,6 +32,7 @@ bool SendAll(int pipe, std::string_view text) {
 
 // Leaves the process without touching what belongs to the one that started it, such as its files.
 [[noreturn]] void PlayAndLeave(const SessionPlan& plan, bool isTranscribed, int pipe) {
+  prctl(PR_SET_PDEATHSIG, SIGKILL);  // nobody else would read what it has to say
   try {
     std::ostringstream transcript;
     const Figures figures = PlaySession(plan, isTranscribed ? &transcript : nullptr, [](long) {});
