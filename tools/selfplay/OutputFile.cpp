@@ -8,20 +8,28 @@
 #include <unistd.h>
 
 namespace Parlino {
+namespace {
+
+// Also what is not there yet. A device is none, although it may lead on to one.
+bool IsOrdinaryFile(const std::string& name) {
+  if (name.starts_with("/dev/") || name.starts_with("/proc/")) return false;
+  std::error_code ignored;
+  return !std::filesystem::exists(name, ignored) || std::filesystem::is_regular_file(name, ignored);
+}
+
+}  // namespace
 
 OutputFile::OutputFile(const std::string& name) : name_(name), place_(name), written_(name) {
-  std::error_code ignored;
-  // A device is written to as it is. It may lead on to a file with something in it, such as a log.
-  const bool isDevice = name.starts_with("/dev/") || name.starts_with("/proc/");
-  const bool isFile =
-      !std::filesystem::exists(name, ignored) || std::filesystem::is_regular_file(name, ignored);
-  if (isFile && !isDevice) {
+  if (IsOrdinaryFile(name)) {
+    std::error_code ignored;
     place_ = std::filesystem::weakly_canonical(name, ignored).string();
     if (place_.empty()) place_ = name;
     written_ = place_ + "." + std::to_string(getpid()) + ".part";
   }
   errno = 0;
-  stream_.open(written_, isDevice ? std::ios::binary | std::ios::app : std::ios::binary);
+  // A device may lead on to a log, which keeps what is in it.
+  const auto mode = written_ == place_ ? std::ios::app : std::ios::trunc;
+  stream_.open(written_, std::ios::binary | mode);
   if (!stream_) RaiseUnwritable();
 }
 

@@ -66,8 +66,7 @@ void Glides::Begin(QWidget* widget, QPoint goal, std::uint32_t now, std::uint32_
 
 void Glides::BeginAfterRest(QWidget* widget, QPoint goal, std::uint32_t now, std::uint32_t pauseMs,
                             std::function<void()> onLeaving, std::function<void()> onArrival) {
-  const bool hasTime = pauseMs != 0 && pauseMs != Forever;
-  const double restMs = hasTime ? RestOfPause * pauseMs : 0;
+  const double restMs = RestOfPause * pauseMs;
   if (glides_.empty()) BeginCounting(*widget, now);
   const double lengthMs = areAllowed_ ? std::max(1.0, pauseMs - restMs - frameMs_ / 2) : 1;
   Glide glide{widget,
@@ -78,6 +77,7 @@ void Glides::BeginAfterRest(QWidget* widget, QPoint goal, std::uint32_t now, std
               lengthMs,
               std::move(onLeaving),
               std::move(onArrival)};
+  const bool hasTime = pauseMs != 0 && pauseMs != Forever;
   if (!hasTime) return Arrive(glide);
   glides_.push_back(std::move(glide));
 }

@@ -70,15 +70,17 @@ void TableMirror::ShowControl(Tie& tie, const Pause& pause) {
 }
 
 // While the mouse is grabbed, Qt does not ask the display server for the pointer at each widget
-// that comes into view. A pack of cards would wait for 52 answers; the table looks once for all of
-// them.
+// that comes into view. A pack of cards would wait for 52 answers; RestingPointer asks once for all
+// cards.
 void TableMirror::Show(const Tie& tie) {
-  if (tie.placing == Placing::Glides) grabber_.grabMouse();
+  if (tie.placing != Placing::Glides) return tie.widget->show();
+  grabber_.grabMouse();
   tie.widget->show();
-  if (tie.placing == Placing::Glides) grabber_.releaseMouse();
+  grabber_.releaseMouse();
 }
 
-// Only a widget that was visible before and still is can be seen moving.
+// Only a widget that was visible before and still is can be seen moving; before the first showing
+// there is no window.
 void TableMirror::ShowPlace(const Tie& tie, const Pause& pause) {
   glides_.Cut(tie.widget);
   const QPoint place = ToPixels(tie.control->Place);
